@@ -1,0 +1,77 @@
+// A form: a list of elements with an order of stacking, and the handlers of its events.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "desktop/element.h"
+
+namespace desktop {
+
+enum class PointerShape { Default, NoDrop };
+
+/// Mouse buttons as the handlers of an element get them: one of them at a press or release, their
+/// sum at a move.
+inline constexpr int kLeftButton = 1;
+inline constexpr int kRightButton = 2;
+inline constexpr int kMiddleButton = 4;
+
+class Form {
+ public:
+  explicit Form(std::string_view name) : Name(name) {}
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  std::string_view Name;
+  bool Loaded = false;
+  float Left = 0;        ///< pixels, in the frame's client area
+  float Top = 0;         ///< pixels, in the frame's client area
+  float NormalLeft = 0;  ///< pixels; the place in a frame that is not maximised
+  float NormalTop = 0;   ///< pixels
+  int Width = 0;         ///< pixels, with the border
+  int Height = 0;        ///< pixels, with the border
+  int Border = 0;        ///< pixels on each side; elements count from inside it
+  Colour BackColor;
+  PointerShape MousePointer = PointerShape::Default;
+
+  /// Shapes, images and labels, back to front.
+  const std::vector<Element*>& Graphics() const { return graphics_; }
+  /// Buttons, option buttons and views in the order in which Tab visits them. They lie in front of
+  /// all images and labels.
+  const std::vector<Element*>& Controls() const { return controls_; }
+
+  void BringToFront(const Element& element);
+
+  /// The frontmost visible and enabled image or label under a point, or nullptr.
+  Element* ElementAt(float x, float y) const;
+
+  /// Runs when the form is opened: lays it out, fills it in and shows it.
+  virtual void Form_Load() = 0;
+
+  /// A press on this element is passed over for now, as if it did not reach the form.
+  virtual bool HoldsBack(const Element&) const { return false; }
+  virtual void MouseDown(Element&, int /*Button*/, float /*X*/, float /*Y*/) {}
+  virtual void MouseMove(Element&, int /*Button*/, float /*X*/, float /*Y*/) {}
+  virtual void MouseUp(Element&, int /*Button*/, float /*X*/, float /*Y*/) {}
+  /// The mouse was taken away between a left press on the element and its release; no release
+  /// follows.
+  virtual void MouseLost(Element&) {}
+  virtual void Click(Element&) {}
+
+  /// What a screen reader is told of the pictures on the form, in sentences. May be empty.
+  virtual std::string Description() const { return {}; }
+
+ protected:
+  /// Puts an element on the form, in front of those before it.
+  void Add(Element& element);
+  /// Takes all elements off, for a new load.
+  void Clear();
+
+ private:
+  std::vector<Element*> graphics_;
+  std::vector<Element*> controls_;
+};
+
+}  // namespace desktop
