@@ -49,6 +49,8 @@ struct Element {
   bool Cancel = false;   ///< a button that Esc presses
   bool Value = false;    ///< an option button that is set
 
+  bool operator==(const Element&) const = default;
+
   bool Contains(float x, float y) const { return x >= Left && x < Left + Width && y >= Top && y < Top + Height; }
 
   void MoveTo(float left, float top) {

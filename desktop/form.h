@@ -35,6 +35,8 @@ class Form {
   int Border = 0;        ///< pixels on each side; elements count from inside it
   Colour BackColor;
   PointerShape MousePointer = PointerShape::Default;
+  /// Pictures that handlers give to elements while the form is on show: to be ready by then.
+  std::vector<const Picture*> PicturesToCome;
 
   /// Shapes, images and labels, back to front.
   const std::vector<Element*>& Graphics() const { return graphics_; }

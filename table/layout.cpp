@@ -78,6 +78,9 @@ void frmGame::LayOutTable() {
   Command1 = desktop::LaidButton("Command1", places::kCommand1, texts::kGetChange);
   Command1.BackColor = colours::kCommand1;
   Add(Command1);
+
+  PicturesToCome = {&pictures::TenPound, &pictures::FivePound, &pictures::OnePound};
+  for (const auto& frame : pictures::Anidice) PicturesToCome.push_back(&frame);
 }
 
 }  // namespace thistle

@@ -1,0 +1,24 @@
+#include "desktop/qt/question_box.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+namespace desktop::qt {
+
+QuestionBox::QuestionBox(const QString& title, const QString& text, QWidget* parent)
+    : QMessageBox(Question, title, text, Yes | No, parent) {
+  setTextFormat(Qt::PlainText);
+  setDefaultButton(Yes);
+  setWindowModality(Qt::ApplicationModal);
+}
+
+bool QuestionBox::Ask() { return exec() == Yes; }
+
+void QuestionBox::closeEvent(QCloseEvent* event) { event->ignore(); }
+
+void QuestionBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Cancel)) return;
+  QMessageBox::keyPressEvent(event);
+}
+
+}  // namespace desktop::qt

@@ -1,0 +1,22 @@
+// A yes-or-no question that can only be answered, not dismissed.
+#pragma once
+
+#include <QMessageBox>
+
+namespace desktop::qt {
+
+/// Esc and the box's close button do nothing: a No by accident could cost the player's money.
+class QuestionBox : public QMessageBox {
+ public:
+  QuestionBox(const QString& title, const QString& text, QWidget* parent);
+
+  /// Asks. True for Yes.
+  bool Ask();
+
+ protected:
+  void reject() override {}
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace desktop::qt
