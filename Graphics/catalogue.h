@@ -47,6 +47,21 @@ inline constexpr Picture CupLeft{"CupLeft", 111, 140};
 inline constexpr Picture CupRight{"CupRight", 111, 142};
 inline constexpr Picture CupThrow{"CupThrow", 118, 150};
 
+// In the lines of the instructions.
+inline constexpr std::array<Picture, 6> Face{{
+    {"FaceHeart", 32, 32},
+    {"FaceSpade", 32, 32},
+    {"FaceDiamond", 32, 32},
+    {"FaceClub", 32, 32},
+    {"FaceThistle", 32, 32},
+    {"FaceLantern", 32, 32},
+}};
+inline constexpr Picture InlineMat{"InlineMat", 200, 37};
+inline constexpr Picture InlineTen{"InlineTen", 84, 44};
+inline constexpr Picture InlineFive{"InlineFive", 79, 40};
+inline constexpr Picture InlineOne{"InlineOne", 27, 27};
+inline constexpr Picture NoDrop{"NoDrop", 15, 15};
+
 }  // namespace pictures
 
 /// All of the above, for a desktop that wants to look them over.

@@ -12,4 +12,14 @@ inline constexpr desktop::Colour kInstruction{0xFFE0C0};
 inline constexpr desktop::Colour kCommand1{0xC04000};
 inline constexpr desktop::Colour kTitle{0xE08800};  ///< headings of the forms around the table
 
+inline constexpr desktop::Colour kRed{0xFF0000};
+inline constexpr desktop::Colour kLink{0x0000FF};
+inline constexpr desktop::Colour kAbout{0xFFFFC0};
+inline constexpr desktop::Colour kAboutBorder{0xC0C000};
+inline constexpr desktop::Colour kRuleDark{0x808080};
+inline constexpr desktop::Colour kRuleLight{0xFFFFFF};
+inline constexpr desktop::Colour kReturn{0xC0C000};
+inline constexpr desktop::Colour kDocumentTitle{0xCC9900};
+inline constexpr desktop::Colour kDocumentHeading{0x008000};
+
 }  // namespace thistle::colours

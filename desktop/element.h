@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "desktop/document.h"
 #include "desktop/look.h"
 #include "desktop/picture.h"
 
@@ -16,7 +17,7 @@ enum class Kind {
   Line,          ///< a filled rectangle drawn on the form's ground; takes no events
   Image,         ///< a picture
   Label,         ///< a text, on a ground of its own or on none
-  Link,          ///< a label that can be clicked and looks so
+  Link,          ///< a label that can be clicked and looks so; it never has the keyboard
   Button,        ///< a push button with a picture as its face
   OptionButton,  ///< one of a group of which exactly one is set
   TextView,      ///< the scrolling view of a document
@@ -49,9 +50,18 @@ struct Element {
   bool Cancel = false;   ///< a button that Esc presses
   bool Value = false;    ///< an option button that is set
 
+  const Document* Text = nullptr;  ///< what a text view shows
+  std::string AccessibleName;      ///< what a screen reader says where the caption does not tell
+
   bool operator==(const Element&) const = default;
 
   bool Contains(float x, float y) const { return x >= Left && x < Left + Width && y >= Top && y < Top + Height; }
+
+  bool IsControl() const {
+    return kind == Kind::Button || kind == Kind::OptionButton || kind == Kind::TextView || kind == Kind::Link;
+  }
+
+  bool TakesFocus() const { return IsControl() && kind != Kind::Link; }
 
   void MoveTo(float left, float top) {
     Left = left;

@@ -7,18 +7,14 @@ namespace desktop {
 
 namespace {
 
-bool IsControl(const Element& element) {
-  return element.kind == Kind::Button || element.kind == Kind::OptionButton || element.kind == Kind::TextView;
-}
-
 bool TakesMouse(const Element& element) {
-  const bool reacts = element.kind == Kind::Image || element.kind == Kind::Label || element.kind == Kind::Link;
+  const bool reacts = element.kind == Kind::Image || element.kind == Kind::Label;
   return reacts && element.Visible && element.Enabled;
 }
 
 }  // namespace
 
-void Form::Add(Element& element) { (IsControl(element) ? controls_ : graphics_).push_back(&element); }
+void Form::Add(Element& element) { (element.IsControl() ? controls_ : graphics_).push_back(&element); }
 
 void Form::Clear() {
   graphics_.clear();

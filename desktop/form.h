@@ -40,7 +40,7 @@ class Form {
 
   /// Shapes, images and labels, back to front.
   const std::vector<Element*>& Graphics() const { return graphics_; }
-  /// Buttons, option buttons and views in the order in which Tab visits them. They lie in front of
+  /// Buttons, option buttons, links and views in the order in which Tab visits them. They lie in front of
   /// all images and labels.
   const std::vector<Element*>& Controls() const { return controls_; }
 

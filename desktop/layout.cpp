@@ -35,4 +35,11 @@ Element LaidButton(std::string_view name, const Place& place, std::string_view c
   return button;
 }
 
+Element LaidClosingButton(std::string_view name, const Place& place, std::string_view caption) {
+  Element button = LaidButton(name, place, caption);
+  button.Default = true;
+  button.Cancel = true;
+  return button;
+}
+
 }  // namespace desktop

@@ -33,4 +33,7 @@ Element LaidLabel(std::string_view name, int index, const Place& place, Align al
 /// A button with a picture as its face.
 Element LaidButton(std::string_view name, const Place& place, std::string_view caption);
 
+/// A button that Enter and Esc press.
+Element LaidClosingButton(std::string_view name, const Place& place, std::string_view caption);
+
 }  // namespace desktop

@@ -26,7 +26,14 @@ float Centred(float start, float room, float size) { return start + std::floor((
 
 }  // namespace
 
-frmMain::frmMain(desktop::Desktop& desktop) : module1(desktop, *this), Game(module1), Splash(module1, Game) {}
+frmMain::frmMain(desktop::Desktop& desktop)
+    : module1(desktop, *this),
+      Game(module1),
+      Help(module1),
+      Options(module1),
+      Support(module1),
+      About(module1),
+      Splash(module1, {Game, Options, Help}) {}
 
 void frmMain::MDIForm_Load() {
   BackColor = colours::kTable;

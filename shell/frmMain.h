@@ -4,7 +4,11 @@
 #include "desktop/frame.h"
 #include "game/frmGame.h"
 #include "game/module1.h"
+#include "shell/frmAbout.h"
+#include "shell/frmHelp.h"
+#include "shell/frmOptions.h"
 #include "shell/frmSplash.h"
+#include "shell/frmSupport.h"
 
 namespace thistle {
 
@@ -22,6 +26,10 @@ class frmMain : public desktop::Frame {
 
   Module1 module1;
   frmGame Game;
+  frmHelp Help;
+  frmOptions Options;
+  frmSupport Support;
+  frmAbout About;
   frmSplash Splash;
 
  private:
@@ -30,6 +38,10 @@ class frmMain : public desktop::Frame {
   // --- menu.cpp
   void mnuNewGame_Click();
   void mnuExit_Click();
+  void mnuOptions_Click();
+  void mnuInstr_Click();
+  void Support_Click();
+  void mnuAbout_Click();
   // --- window_fitting.cpp
   void MDIForm_Resize();
 };

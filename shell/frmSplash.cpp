@@ -5,9 +5,8 @@
 #include "Graphics/catalogue.h"
 #include "Graphics/colours.h"
 #include "desktop/layout.h"
-#include "desktop/units.h"
 #include "game/identity.h"
-#include "shell/frame_size.h"
+#include "shell/full_size.h"
 
 namespace thistle {
 
@@ -44,9 +43,7 @@ std::string OnThreeLines(std::string_view word) { return "\r\n" + std::string(wo
 
 void frmSplash::LayOut() {
   Clear();
-  Width = frame_size::kClientWidth;
-  Height = frame_size::kClientHeight;
-  BackColor = colours::kTable;
+  FillFrame(*this);
 
   fraMainFrame = desktop::Laid(desktop::Kind::Frame, "fraMainFrame", 0, kPanel);
   fraMainFrame.BackColor = colours::kTable;
@@ -77,13 +74,19 @@ void frmSplash::Form_Load() {
 }
 
 void frmSplash::Click(Element& element) {
+  if (&element == &Instructions) Instructions_Click();
+  if (&element == &cmdOptions) cmdOptions_Click();
   if (&element == &PlayGame) PlayGame_Click();
   if (&element == &ExitButton) ExitButton_Click();
 }
 
+void frmSplash::Instructions_Click() { module1_.frmMain.Open(ways_.frmHelp); }
+
+void frmSplash::cmdOptions_Click() { module1_.frmMain.Open(ways_.frmOptions); }
+
 void frmSplash::PlayGame_Click() {
   module1_.frmMain.Unload(*this);
-  module1_.frmMain.Open(table_);
+  module1_.frmMain.Open(ways_.frmGame);
 }
 
 void frmSplash::ExitButton_Click() { module1_.frmMain.Close(); }

@@ -8,8 +8,14 @@ namespace thistle {
 
 class frmSplash : public desktop::Form {
  public:
-  /// `table` is what Play Game opens.
-  frmSplash(Module1& module1, desktop::Form& table) : Form("frmSplash"), module1_(module1), table_(table) {}
+  /// What the buttons open.
+  struct Ways {
+    desktop::Form& frmGame;
+    desktop::Form& frmOptions;
+    desktop::Form& frmHelp;
+  };
+
+  frmSplash(Module1& module1, const Ways& ways) : Form("frmSplash"), module1_(module1), ways_(ways) {}
 
   void Form_Load() override;
   void Click(desktop::Element& element) override;
@@ -19,11 +25,13 @@ class frmSplash : public desktop::Form {
 
  private:
   void LayOut();
+  void Instructions_Click();
+  void cmdOptions_Click();
   void PlayGame_Click();
   void ExitButton_Click();
 
   Module1& module1_;
-  desktop::Form& table_;
+  Ways ways_;
 };
 
 }  // namespace thistle

@@ -1,16 +1,17 @@
 #include "desktop/qt/form_view.h"
 
+#include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "desktop/qt/element_painter.h"
 #include "desktop/qt/events.h"
 #include "desktop/qt/light_palette.h"
-#include "desktop/qt/wood_button.h"
 
 namespace desktop::qt {
 
@@ -93,30 +94,28 @@ void FormView::FollowOrder() {
 
 void FormView::FollowControls() {
   for (Element* element : form_.Controls()) {
-    QWidget*& control = controls_[element];
-    if (!control) control = MakeControl(*element);
-    FollowControl(*element, *control);
+    Control& control = ControlOf(*element);
+    control.widget().setGeometry(qRound(element->Left) + form_.Border, qRound(element->Top) + form_.Border,
+                                 qRound(element->Width), qRound(element->Height));
+    control.widget().setEnabled(element->Enabled);
+    control.widget().setVisible(element->Visible);
+    control.Follow(*element);
   }
 }
 
-QWidget* FormView::MakeControl(Element& element) {
-  auto* button = new WoodButton(pictures_, this);
-  connect(button, &QPushButton::clicked, this, [this, &element] {
+Control& FormView::ControlOf(Element& element) {
+  Control*& control = controls_[&element];
+  if (control) return *control;
+  ControlEvents events;
+  // A press brings the form to the front even if no click comes of it.
+  events.pressed = [this] { events_.Deliver([this] { events_.frame().Show(form_); }); };
+  events.clicked = [this, &element] {
     events_.Deliver([&] {
       if (Reacts(element)) form_.Click(element);
     });
-  });
-  // A press brings the form to the front even if the button is then not clicked.
-  connect(button, &QPushButton::pressed, this, [this] { events_.Deliver([this] { events_.frame().Show(form_); }); });
-  return button;
-}
-
-void FormView::FollowControl(const Element& element, QWidget& control) {
-  control.setGeometry(qRound(element.Left) + form_.Border, qRound(element.Top) + form_.Border, qRound(element.Width),
-                      qRound(element.Height));
-  control.setEnabled(element.Enabled);
-  control.setVisible(element.Visible);
-  static_cast<WoodButton&>(control).Follow(element);
+  };
+  control = MakeControl(element, events, pictures_, this);
+  return *control;
 }
 
 void FormView::FollowDescription() {
@@ -143,6 +142,7 @@ void FormView::paintEvent(QPaintEvent* event) {
   const QTransform device = painter.deviceTransform();
   const QPoint corner = device.map(QPointF(form_.Border, form_.Border)).toPoint();
   painter.fillRect(event->rect(), ToQt(form_.BackColor));
+  if (form_.Border > 0) PaintBorder(painter);
   painter.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) * device.inverted());
   const QRegion damaged = event->region().translated(-form_.Border, -form_.Border);
   for (const Element* element : form_.Graphics()) {
@@ -150,6 +150,21 @@ void FormView::paintEvent(QPaintEvent* event) {
     const auto drawn = drawn_.find(element);
     if (drawn == drawn_.end() || damaged.intersects(drawn->second.painted.adjusted(-1, -1, 1, 1)))
       Paint(painter, *element, pictures_, ratio);
+  }
+}
+
+/// A fixed dialog's border: raised, lit from above and from the left.
+void FormView::PaintBorder(QPainter& painter) const {
+  constexpr QRgb kUpper[] = {0xE3E3E3, 0xFFFFFF, 0xF0F0F0};
+  constexpr QRgb kLower[] = {0x696969, 0xA0A0A0, 0xF0F0F0};
+  for (int line = 0; line < form_.Border; ++line) {
+    const QRect edge = rect().adjusted(line, line, -line, -line);
+    painter.setPen(QColor(kUpper[line]));
+    painter.drawLine(edge.topLeft(), edge.topRight());
+    painter.drawLine(edge.topLeft(), edge.bottomLeft());
+    painter.setPen(QColor(kLower[line]));
+    painter.drawLine(edge.bottomLeft(), edge.bottomRight());
+    painter.drawLine(edge.topRight(), edge.bottomRight());
   }
 }
 
@@ -187,10 +202,28 @@ void FormView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {
+  if (ScrollsView(event->key()) || event->isAutoRepeat()) return;
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (event->isAutoRepeat()) return;
   if (enter) PressOn(&Element::Default);
   if (event->key() == Qt::Key_Escape) PressOn(&Element::Cancel);
+}
+
+/// The keys that scroll reach the form's view wherever the focus is.
+bool FormView::ScrollsView(int key) {
+  const auto* view = findChild<QAbstractScrollArea*>();
+  if (!view) return false;
+  struct Step {
+    int key;
+    QAbstractSlider::SliderAction action;
+  };
+  constexpr Step kSteps[] = {{Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+                             {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+                             {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+                             {Qt::Key_End, QAbstractSlider::SliderToMaximum}};
+  const auto* step = std::ranges::find(kSteps, key, &Step::key);
+  if (step == std::end(kSteps)) return false;
+  view->verticalScrollBar()->triggerAction(step->action);
+  return true;
 }
 
 void FormView::PressOn(bool Element::*role) {
@@ -205,7 +238,8 @@ bool FormView::focusNextPrevChild(bool next) {
   // Tab stays on the form in front: what lies beneath must not take keys unseen.
   std::vector<QWidget*> stops;
   for (const Element* element : form_.Controls())
-    if (const auto at = controls_.find(element); at != controls_.end() && Reacts(*element)) stops.push_back(at->second);
+    if (const auto at = controls_.find(element); at != controls_.end() && element->TakesFocus() && Reacts(*element))
+      stops.push_back(&at->second->widget());
   if (stops.empty()) {
     setFocus();
     return true;
@@ -223,7 +257,7 @@ void FormView::TakeKeyboard() {
 }
 
 void FormView::SetFocus(const Element& control) {
-  if (const auto at = controls_.find(&control); at != controls_.end()) at->second->setFocus();
+  if (const auto at = controls_.find(&control); at != controls_.end()) at->second->widget().setFocus();
 }
 
 }  // namespace desktop::qt

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/form.h"
+#include "desktop/qt/control.h"
 #include "desktop/qt/picture_store.h"
 
 namespace desktop::qt {
@@ -48,9 +49,10 @@ class FormView : public QWidget {
   void FollowOrder();
   void FollowControls();
   void FollowDescription();
-  QWidget* MakeControl(Element& element);
-  void FollowControl(const Element& element, QWidget& control);
+  Control& ControlOf(Element& element);
   void PressOn(bool Element::*role);
+  bool ScrollsView(int key);
+  void PaintBorder(QPainter& painter) const;
   QPointF OnForm(const QMouseEvent& event) const;
   /// `area` in the layout's pixels, widened where device pixels straddle it.
   void Damage(const QRect& area);
@@ -60,7 +62,7 @@ class FormView : public QWidget {
   PictureStore& pictures_;
   std::unordered_map<const Element*, Drawn> drawn_;
   std::vector<Element*> order_;
-  std::unordered_map<const Element*, QWidget*> controls_;
+  std::unordered_map<const Element*, Control*> controls_;
   PointerShape shape_ = PointerShape::Default;
   QString description_;
 };

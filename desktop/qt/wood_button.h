@@ -3,17 +3,16 @@
 
 #include <QPushButton>
 
-#include "desktop/element.h"
-#include "desktop/qt/picture_store.h"
+#include "desktop/qt/control.h"
 
 namespace desktop::qt {
 
-class WoodButton : public QPushButton {
+class WoodButton : public QPushButton, public Control {
  public:
   WoodButton(PictureStore& pictures, QWidget* parent) : QPushButton(parent), pictures_(pictures) {}
 
-  /// Takes over what the record says. Costs nothing where it says the same as before.
-  void Follow(const Element& record);
+  QWidget& widget() override { return *this; }
+  void Follow(const Element& record) override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

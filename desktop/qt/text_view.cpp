@@ -1,0 +1,100 @@
+#include "desktop/qt/text_view.h"
+
+#include <QTextBlockFormat>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextImageFormat>
+#include <QToolTip>
+#include <QUrl>
+#include <cmath>
+
+#include "desktop/qt/element_painter.h"
+#include "desktop/qt/fonts.h"
+#include "desktop/qt/text.h"
+
+namespace desktop::qt {
+
+namespace {
+
+/// Relative luminance below which black text becomes hard to read: a contrast of 4.5 to 1.
+constexpr double kDarkest = 0.175;
+
+double Luminance(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+/// The platform's colour for tooltips, or a pale one where black text could not be read on it.
+QColor Ground() {
+  const QColor tooltip = QToolTip::palette().color(QPalette::ToolTipBase);
+  return Luminance(tooltip) > kDarkest ? tooltip : QColor(0xFF, 0xFF, 0xE1);
+}
+
+QTextCharFormat Format(const TextStyle& style) {
+  QTextCharFormat format;
+  format.setFont(ToQt(style.Font));
+  format.setForeground(ToQt(style.ForeColor));
+  return format;
+}
+
+}  // namespace
+
+TextView::TextView(PictureStore& pictures, QWidget* parent) : QTextEdit(parent), pictures_(pictures) {
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setFrameShape(QFrame::NoFrame);
+  QPalette colours = palette();
+  colours.setColor(QPalette::Base, Ground());
+  setPalette(colours);
+}
+
+void TextView::Follow(const Element& record) {
+  if (record.Text == shown_ || !record.Text) return;
+  shown_ = record.Text;
+  setAccessibleName(Text(record.AccessibleName));
+  Write(*shown_);
+}
+
+void TextView::Write(const Document& text) {
+  QTextCursor cursor(document());
+  bool first = true;
+  for (const Paragraph& paragraph : text.Paragraphs) {
+    QTextBlockFormat block;
+    block.setAlignment(paragraph.Alignment == Align::Centre ? Qt::AlignHCenter : Qt::AlignLeft);
+    if (first)
+      cursor.setBlockFormat(block);
+    else
+      cursor.insertBlock(block);
+    first = false;
+    for (const Run& run : paragraph.Runs) {
+      if (run.Picture)
+        WritePicture(cursor, run);
+      else
+        cursor.insertText(QString::fromStdString(run.Text), Format(*run.Style));
+      // An empty line is as high as its style.
+      if (!run.Picture && run.Text.empty()) cursor.setBlockCharFormat(Format(*run.Style));
+    }
+  }
+  QTextOption option = document()->defaultTextOption();
+  option.setTabStopDistance(text.TabDistance);
+  document()->setDefaultTextOption(option);
+  moveCursor(QTextCursor::Start);
+}
+
+void TextView::WritePicture(QTextCursor& cursor, const Run& run) {
+  const double ratio = devicePixelRatioF();
+  QPixmap pixmap = pictures_.At(*run.Picture, ratio);
+  pixmap.setDevicePixelRatio(ratio);
+  const QString name = Text(run.Picture->name);
+  document()->addResource(QTextDocument::ImageResource, QUrl(name), pixmap);
+  QTextImageFormat format;
+  format.setName(name);
+  format.setWidth(run.Picture->width);
+  format.setHeight(run.Picture->height);
+  format.setToolTip(QString::fromStdString(run.Meaning));
+  cursor.insertImage(format);
+}
+
+}  // namespace desktop::qt
