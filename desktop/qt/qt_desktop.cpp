@@ -105,8 +105,6 @@ void QtDesktop::SaveSetting(std::string_view application, std::string_view secti
   settings_.Save(application, section, key, text);
 }
 
-void QtDesktop::PlayWave(const WaveImage&) {}
-
 Area QtDesktop::WorkArea() const {
   const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
   const auto twips = [](int pixels) { return static_cast<float>(pixels * kTwipsPerPixel); };

@@ -14,6 +14,7 @@
 #include "desktop/qt/frame_window.h"
 #include "desktop/qt/picture_store.h"
 #include "desktop/qt/settings_store.h"
+#include "desktop/qt/sound_player.h"
 
 namespace desktop::qt {
 
@@ -35,7 +36,7 @@ class QtDesktop : public Desktop, private Events {
                           std::string_view fallback) override;
   void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                    std::string_view text) override;
-  void PlayWave(const WaveImage& image) override;
+  void PlayWave(const WaveImage& image) override { sound_.Play(image); }
   Area WorkArea() const override;
   void OpenMail(std::string_view address) override;
   void OpenPage(std::string_view address) override;
@@ -60,6 +61,7 @@ class QtDesktop : public Desktop, private Events {
   Chance chance_;
   SettingsStore settings_;
   PictureStore pictures_;
+  SoundPlayer sound_;
   std::unique_ptr<FrameWindow> window_;
   std::map<Form*, FormView*> views_;
   std::vector<Form*> order_;
