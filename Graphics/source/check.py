@@ -1,0 +1,175 @@
+"""Looks hard at finished pictures and names every one that is not as it must be."""
+
+import numpy as np
+from PIL import Image, ImageColor
+
+import catalogue
+
+WOOD_MEAN = np.array([242, 198, 98])
+# An edge pixel may stray this far from the mixes of its ground and its own shape.
+STRAY = 30
+STRAYS_ALLOWED = 0.04
+# The mean luminance that the soft edge of a dark outline never reaches.
+PALE = 0.16
+# The two scales of a picture, seen through blocks of this many pixels, differ less than this.
+BLOCK = 8
+UNLIKE = 48
+
+
+def opened(file):
+    with Image.open(file) as image:
+        if image.format != "PNG":
+            raise ValueError(f"is {image.format}, not PNG")
+        return np.asarray(image.convert("RGBA"), int)
+
+
+def border(pixels, depth):
+    """The pixels of a frame so deep along the edges, as one list."""
+    inside = np.zeros(pixels.shape[:2], bool)
+    inside[depth:-depth, depth:-depth] = True
+    return pixels[~inside]
+
+
+def ground_faults(picture, pixels, scale):
+    alpha = pixels[..., 3]
+    if picture.ground == "transparent":
+        if alpha[[0, 0, -1, -1], [0, -1, 0, -1]].any():
+            yield "has a corner that is not transparent"
+        return
+    if (alpha != 255).any():
+        yield "must be opaque everywhere"
+    if picture.ground != "opaque" and picture.clear:
+        colour = ImageColor.getrgb(picture.ground)
+        frame = border(pixels[..., :3], picture.clear * scale)
+        wrong = int((frame != colour).any(axis=1).sum())
+        if wrong:
+            yield f"shows {wrong} edge pixels that are not {picture.ground}"
+
+
+def neighbours(array, reach):
+    """The array as seen from each pixel within reach, edges repeated."""
+    padded = np.pad(array, ((reach, reach), (reach, reach), (0, 0)), mode="edge")
+    rows, columns = array.shape[:2]
+    for down in range(2 * reach + 1):
+        for right in range(2 * reach + 1):
+            yield padded[down:down + rows, right:right + columns]
+
+
+def stray_from_mixes(colours, ground, shape):
+    """How far colours lie from the line between the ground and a shape's colour."""
+    line = shape - ground
+    length = np.maximum((line ** 2).sum(axis=-1, keepdims=True), 1)
+    along = np.clip(((colours - ground) * line).sum(axis=-1, keepdims=True) / length, 0, 1)
+    return np.linalg.norm(colours - ground - along * line, axis=-1)
+
+
+def stray_share(pixels, ground):
+    """The share of soft edge pixels that no mix of ground and nearby shape explains."""
+    colours = pixels[..., :3].astype(float)
+    bare = (colours == ground).all(axis=2)
+    near = np.any([seen[..., 0] for seen in neighbours(bare[..., None], 1)], axis=0)
+    edge, body = near & ~bare, ~near
+    least = np.full(edge.shape, np.inf)
+    for seen in neighbours(np.dstack([colours, body]), 3):
+        here = stray_from_mixes(colours, ground, seen[..., :3])
+        least = np.where(seen[..., 3] > 0, np.minimum(least, here), least)
+    return (least[edge] > STRAY).mean() if edge.any() else 0
+
+
+def fringe_faults(picture, pixels):
+    if picture.ground == "transparent":
+        alpha = pixels[..., 3]
+        # All clear pictures end in a dark line: a pale edge is left from another ground.
+        soft = luminance(pixels)[(alpha >= 32) & (alpha <= 160)]
+        if soft.size and soft.mean() > PALE:
+            yield f"has a pale fringe of luminance {soft.mean():.2f}"
+        return
+    share = stray_share(pixels, np.array(ImageColor.getrgb(picture.ground), float))
+    if share > STRAYS_ALLOWED:
+        yield f"has a fringe of another ground on {share:.0%} of its edge"
+
+
+def linear_light():
+    part = np.arange(256) / 255
+    return np.where(part <= 0.04045, part / 12.92, ((part + 0.055) / 1.055) ** 2.4)
+
+
+def luminance(pixels):
+    return linear_light()[pixels[..., :3]] @ (0.2126, 0.7152, 0.0722)
+
+
+def wood_faults(pixels):
+    mean = pixels[..., :3].mean(axis=(0, 1))
+    if np.abs(mean - WOOD_MEAN).max() > 3:
+        yield f"has the mean colour {np.rint(mean).astype(int).tolist()}"
+    contrast = (luminance(pixels).min() + 0.05) / 0.05
+    if contrast < 4.5:
+        yield f"gives black text a contrast of only {contrast:.1f}"
+
+
+def file_faults(picture, folder, scale):
+    file = picture.file(folder, scale)
+    if not file.exists():
+        yield "is missing"
+        return
+    if file.stat().st_size > picture.kilobytes * 1024 * scale ** 2:
+        yield f"takes {file.stat().st_size // 1024} kB"
+    try:
+        pixels = opened(file)
+    except (OSError, ValueError) as error:
+        yield f"cannot be read: {error}"
+        return
+    size = (picture.width * scale, picture.height * scale)
+    if pixels.shape[1::-1] != size:
+        yield "is {1} x {0}, not {2} x {3}".format(*pixels.shape[:2], *size)
+        return
+    yield from ground_faults(picture, pixels, scale)
+    if len(np.unique(pixels @ (1 << 24, 1 << 16, 1 << 8, 1))) < 8:
+        yield "shows next to nothing"
+    if picture.maker in ("drawing", "coin"):
+        yield from fringe_faults(picture, pixels)
+    if picture.maker == "wood":
+        yield from wood_faults(pixels)
+
+
+def blocks(file, size):
+    with Image.open(file) as image:
+        seen = image.convert("RGBA").convert("RGBa").resize(size, Image.Resampling.BOX)
+        return np.asarray(seen, int)
+
+
+def scale_faults(picture, folder):
+    """Tells when the two scales do not show the same, as after a mix-up of files."""
+    files = [picture.file(folder, scale) for scale in picture.scales]
+    size = (-(-picture.width // BLOCK), -(-picture.height // BLOCK))
+    views = [blocks(file, size) for file in files]
+    apart = np.abs(views[0] - views[-1]).max()
+    if apart > UNLIKE:
+        yield f"{files[-1].name} does not show what {files[0].name} shows"
+
+
+def source_faults(picture, recorded):
+    try:
+        fresh = recorded.get(picture.name) == picture.source_hash()
+    except FileNotFoundError as error:
+        yield str(error)
+        return
+    if not fresh:
+        yield f"{picture.name} was not rebuilt after its source changed"
+
+
+def picture_faults(picture, folder):
+    found = [f"{picture.file(folder, scale).name} {fault}"
+             for scale in picture.scales for fault in file_faults(picture, folder, scale)]
+    return found or list(scale_faults(picture, folder))
+
+
+def faults(pictures, folder):
+    """Every fault of the pictures in a folder, one line each."""
+    recorded = catalogue.recorded_hashes(folder)
+    for picture in pictures:
+        yield from picture_faults(picture, folder)
+        yield from source_faults(picture, recorded)
+    known = {picture.file(folder, scale) for picture in pictures for scale in picture.scales}
+    for stranger in sorted(set(folder.glob("*.png")) - known):
+        yield f"{stranger.name} is not in the catalogue"

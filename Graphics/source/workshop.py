@@ -1,0 +1,52 @@
+"""Makes the pictures of the catalogue, each by its own craft."""
+
+import sys
+
+import coin
+import engraving
+import raster
+import wood
+from catalogue import SOURCE
+
+
+def drawn(picture, scale):
+    left, top, width, height = (
+        scale * part for part in picture.box or (0, 0, picture.width, picture.height))
+    art = raster.render_svg(SOURCE / picture.sources[0], width, height)
+    size = (picture.width * scale, picture.height * scale)
+    return raster.on_ground(*size, picture.ground, art, (left, top))
+
+
+def engraved(picture, scale):
+    svg = engraving.engraved(SOURCE / picture.sources[0])
+    art = raster.render_svg(svg, picture.width * scale, picture.height * scale)
+    return art.convert("RGB")
+
+
+def sized(draw):
+    return lambda picture, scale: draw(picture.width * scale, picture.height * scale)
+
+
+MAKERS = {"drawing": drawn, "engraving": engraved,
+          "coin": sized(coin.draw), "wood": sized(wood.draw)}
+
+
+def build_solid(folder):
+    sys.path.append(str(SOURCE / "solid"))
+    import solid
+
+    solid.build(folder)
+
+
+def build(pictures, folder):
+    folder.mkdir(parents=True, exist_ok=True)
+    for picture in pictures:
+        if picture.maker == "solid":
+            continue
+        for scale in picture.scales:
+            file = picture.file(folder, scale)
+            MAKERS[picture.maker](picture, scale).save(file, "PNG", optimize=True)
+            print(file.name, flush=True)
+    if any(picture.maker == "solid" for picture in pictures):
+        print("the die and the cup, which take a few minutes", flush=True)
+        build_solid(folder)
