@@ -64,7 +64,7 @@ void frmMain::MDIForm_Unload() {
   if (Game.Loaded)
     for (int d = 0; d < kDenominations; ++d)
       module1.SaveSetting(settings::kStash[d], std::to_string(module1.MoneyCount[d]));
-  if (State == desktop::WindowState::Normal) {
+  if (State == desktop::WindowState::Normal && HasPlace) {
     module1.SaveSetting(settings::kMainLeft, PlaceText(Left));
     module1.SaveSetting(settings::kMainTop, PlaceText(Top));
   }

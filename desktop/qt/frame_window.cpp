@@ -1,6 +1,7 @@
 #include "desktop/qt/frame_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QScreen>
 #include <QWindow>
@@ -83,6 +84,7 @@ QSize FrameWindow::FixedSize() const {
 }
 
 void FrameWindow::Appear() {
+  frame_.HasPlace = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
   const QPoint place(qRound(frame_.Left / kTwipsPerPixel), qRound(frame_.Top / kTwipsPerPixel));
   move(place);
   resize(FixedSize());

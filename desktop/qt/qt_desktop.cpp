@@ -19,6 +19,13 @@
 
 namespace desktop::qt {
 
+void ChoosePlatform() {
+#ifdef Q_OS_LINUX
+  if (!qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+#endif
+}
+
 QtDesktop::QtDesktop() { LoadCarriedFonts(); }
 
 void QtDesktop::ShowFrame(Frame& frame) {

@@ -18,6 +18,10 @@
 
 namespace desktop::qt {
 
+/// Prefers the window system that tells a window its place, where there are two and the user has
+/// not chosen. Before the QApplication is made.
+void ChoosePlatform();
+
 /// Needs a QApplication that lives as long.
 class QtDesktop : public Desktop, private Events {
  public:
