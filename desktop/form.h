@@ -52,7 +52,8 @@ class Form {
   /// Runs when the form is opened: lays it out, fills it in and shows it.
   virtual void Form_Load() = 0;
 
-  /// A press on this element is passed over for now, as if it did not reach the form.
+  /// Presses on this element and clicks of it are passed over for now, as if they did not reach the
+  /// form.
   virtual bool HoldsBack(const Element&) const { return false; }
   virtual void MouseDown(Element&, int /*Button*/, float /*X*/, float /*Y*/) {}
   virtual void MouseMove(Element&, int /*Button*/, float /*X*/, float /*Y*/) {}

@@ -48,7 +48,8 @@ void Pointer::Release(int button, float x, float y) {
   // A click may run for seconds: the hold must be over before its handler starts.
   Form& form = *std::exchange(form_, nullptr);
   Element& element = *std::exchange(element_, nullptr);
-  const bool click = element.Visible && element.Enabled && element.Contains(x, y);
+  const bool reacts = element.Visible && element.Enabled && !form.HoldsBack(element);
+  const bool click = reacts && element.Contains(x, y);
   form.MouseUp(element, button, OffsetX(element, x), OffsetY(element, y));
   if (click) form.Click(element);
 }

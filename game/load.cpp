@@ -30,6 +30,7 @@ void frmGame::Form_Load() {
     return;
   }
   for (int d = 0; d < kDenominations; ++d) module1_.MoneyCount[d] = Stash[d];
+  module1_.MoneyDealt = true;
   ShowMoney();
   SetUpTurn();
 }

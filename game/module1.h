@@ -23,6 +23,8 @@ struct Module1 {
   /// Pieces of each denomination in the player's piles, without those on the mat or in flight. No
   /// upper limit in play; 64 bits hold more than any game can win.
   std::array<std::int64_t, kDenominations> MoneyCount{};
+  /// The counts have been filled in this run: with a fresh stake, or with what the last run left.
+  bool MoneyDealt = false;
   /// Pounds in the piles for each denomination, and their sum. As fresh as the last ShowTotals.
   std::array<std::int64_t, kDenominations + 1> MoneyValue{};
 

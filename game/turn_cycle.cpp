@@ -33,6 +33,7 @@ void frmGame::SendAllHome() {
 
 void frmGame::FreshStake() {
   module1_.MoneyCount = {13, 12, 10};
+  module1_.MoneyDealt = true;
   ShowMoney();
 }
 

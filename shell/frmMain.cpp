@@ -14,10 +14,10 @@ namespace thistle {
 
 namespace {
 
-/// A place as the store keeps it: the shortest decimal number that reads back as the same float.
+/// A place as the store keeps it: the shortest decimal digits that read back as the same float.
 std::string PlaceText(float twips) {
-  char text[32];
-  const auto [end, error] = std::to_chars(text, text + sizeof text, twips);
+  char text[64];
+  const auto [end, error] = std::to_chars(text, text + sizeof text, twips, std::chars_format::fixed);
   return {text, end};
 }
 
@@ -60,8 +60,8 @@ void frmMain::MDIForm_Unload() {
   module1.desktop.ReleaseMouse();
   module1.PlayResSound("doorshut");
   module1.SaveSetting(settings::kSoundOn, module1.SoundOn ? settings::kTrue : settings::kFalse);
-  // Before the table was loaded nobody has filled the counts: what the run before stored stands.
-  if (Game.Loaded)
+  // While nobody has filled the counts, what the run before stored stands.
+  if (module1.MoneyDealt)
     for (int d = 0; d < kDenominations; ++d)
       module1.SaveSetting(settings::kStash[d], std::to_string(module1.MoneyCount[d]));
   if (State == desktop::WindowState::Normal && HasPlace) {

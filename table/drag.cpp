@@ -24,15 +24,15 @@ void frmGame::Money_MouseDown(int Index, int Button, float X, float Y) {
 
 void frmGame::Money_MouseMove(int Index, int Button, float X, float Y) {
   if (Button != kLeftButton) return;
-  FollowPointer(Index, X, Y);
   SquareUnder(Index, X, Y);
+  FollowPointer(Index, X, Y);
   MousePointer = DropAllowed ? PointerShape::Default : PointerShape::NoDrop;
 }
 
 void frmGame::Money_MouseUp(int Index, int Button, float X, float Y) {
   if (Button != kLeftButton) return;
-  FollowPointer(Index, X, Y);
   const auto square = SquareUnder(Index, X, Y);
+  FollowPointer(Index, X, Y);
   if (square && DropAllowed)
     DropOnSquare(Index, *square);
   else
@@ -53,8 +53,8 @@ void frmGame::FollowPointer(int Index, float X, float Y) {
   Money[Index].Top += ToPixels(Y - GrabY);
 }
 
-/// The square under the pointer. The offset counts from where the piece is now, after a move just as
-/// before it.
+/// The square under the tip of the pointer. The offset counts from where the piece was when the event
+/// was raised, so this comes before the piece moves.
 std::optional<int> frmGame::SquareUnder(int Index, float X, float Y) {
   return FindSquare(Money[Index].Left + ToPixels(X), Money[Index].Top + ToPixels(Y));
 }

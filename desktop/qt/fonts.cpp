@@ -1,16 +1,29 @@
 #include "desktop/qt/fonts.h"
 
 #include <QFontDatabase>
+#include <QResource>
 #include <QStringList>
+#include <utility>
 
 namespace desktop::qt {
 
-void LoadCarriedFonts() {
-  for (const char* style : {"Regular", "Bold", "Italic", "BoldItalic"})
-    QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/LiberationSerif-%1.ttf").arg(QLatin1String(style)));
+namespace {
+
+void LoadCarried(const Font& font) {
+  static constexpr const char* kStyles[] = {"Regular", "Bold", "Italic", "BoldItalic"};
+  static bool loaded[] = {false, false, false, false};
+  const int style = (font.bold ? 1 : 0) + (font.italic ? 2 : 0);
+  if (std::exchange(loaded[style], true)) return;
+  // Straight from the program's own pages, without a copy.
+  const QResource file(QStringLiteral(":/fonts/LiberationSerif-%1.ttf").arg(QLatin1String(kStyles[style])));
+  const auto* data = reinterpret_cast<const char*>(file.data());
+  QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(data, static_cast<qsizetype>(file.size())));
 }
 
+}  // namespace
+
 QFont ToQt(const Font& font) {
+  LoadCarried(font);
   QFont type;
   type.setFamilies({QStringLiteral("Liberation Serif"), QStringLiteral("Times New Roman"), QStringLiteral("serif")});
   type.setPixelSize(qRound(font.PixelSize()));

@@ -7,10 +7,8 @@
 
 namespace desktop::qt {
 
-/// Makes the carried font files known. Once, before the first font is asked for.
-void LoadCarriedFonts();
-
-/// Sized in pixels, so that the layout holds whatever the screen's density.
+/// Sized in pixels, so that the layout holds whatever the screen's density. A style's font file is
+/// loaded when it is asked for first.
 QFont ToQt(const Font& font);
 
 }  // namespace desktop::qt

@@ -33,7 +33,8 @@ constexpr QSize kNoOtherSize(4000, 4000);
 
 QIcon LoadIcon(std::string_view stem) {
   QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256})
+  // What a title bar or a task list shows. The larger ones are the installed program's.
+  for (const int size : {16, 24, 32, 48, 64})
     icon.addFile(QStringLiteral(":/pictures/%1%2.png").arg(Text(stem)).arg(size), QSize(size, size));
   return icon;
 }

@@ -12,7 +12,6 @@
 #include <random>
 #include <utility>
 
-#include "desktop/qt/fonts.h"
 #include "desktop/qt/question_box.h"
 #include "desktop/qt/text.h"
 #include "desktop/units.h"
@@ -25,8 +24,6 @@ void ChoosePlatform() {
     qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 #endif
 }
-
-QtDesktop::QtDesktop() { LoadCarriedFonts(); }
 
 void QtDesktop::ShowFrame(Frame& frame) {
   frame_ = &frame;

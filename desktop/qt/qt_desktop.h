@@ -25,8 +25,6 @@ void ChoosePlatform();
 /// Needs a QApplication that lives as long.
 class QtDesktop : public Desktop, private Events {
  public:
-  QtDesktop();
-
   // --- Desktop
   void ShowFrame(Frame& frame) override;
   void SetFocus(Form& form, Element& control) override;

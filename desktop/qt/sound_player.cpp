@@ -1,7 +1,5 @@
 #include "desktop/qt/sound_player.h"
 
-#include <SDL.h>
-
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -40,50 +38,50 @@ constexpr auto kTooLate = 400ms;
 void SayNothing(const char*, int, const char*, int, const char*, ...) {}
 
 /// Keeps ALSA from writing to the terminal where there is no device. Does nothing elsewhere.
-void QuietAlsa() {
-  void* alsa = SDL_LoadObject("libasound.so.2");
+void QuietAlsa(const Sdl& sdl) {
+  void* alsa = sdl.LoadObject("libasound.so.2");
   if (!alsa) return;
   using Handler = void (*)(const char*, int, const char*, int, const char*, ...);
   using SetHandler = int (*)(Handler);
-  if (const auto set = reinterpret_cast<SetHandler>(SDL_LoadFunction(alsa, "snd_lib_error_set_handler")))
+  if (const auto set = reinterpret_cast<SetHandler>(sdl.LoadFunction(alsa, "snd_lib_error_set_handler")))
     set(SayNothing);
 }
 
 }  // namespace
 
-Voice::Voice(const WaveImage& image) {
+Voice::Voice(const Sdl& sdl, const WaveImage& image) : sdl_(sdl), stream_(nullptr, sdl.FreeAudioStream) {
   SDL_AudioSpec spec{};
   Uint8* bytes = nullptr;
   Uint32 size = 0;
-  SDL_RWops* file = SDL_RWFromConstMem(image.bytes.data(), static_cast<int>(image.bytes.size()));
-  if (!file || !SDL_LoadWAV_RW(file, 1, &spec, &bytes, &size)) return;
-  const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> loaded(bytes, SDL_FreeWAV);
+  SDL_RWops* file = sdl_.RWFromConstMem(image.bytes.data(), static_cast<int>(image.bytes.size()));
+  if (!file || !sdl_.LoadWAV_RW(file, 1, &spec, &bytes, &size)) return;
+  const std::unique_ptr<Uint8, decltype(Sdl::FreeWAV)> loaded(bytes, sdl_.FreeWAV);
 
   // The width first and apart: at the end a stream fills up with zeros, which are not silence in
   // eight bits.
   SDL_AudioCVT width{};
-  if (SDL_BuildAudioCVT(&width, spec.format, spec.channels, spec.freq, AUDIO_S16SYS, 1, spec.freq) < 0) return;
+  if (sdl_.BuildAudioCVT(&width, spec.format, spec.channels, spec.freq, AUDIO_S16SYS, 1, spec.freq) < 0) return;
   samples_.resize(static_cast<std::size_t>(size) * static_cast<std::size_t>(std::max(width.len_mult, 1)));
   std::copy_n(bytes, size, samples_.begin());
   width.buf = samples_.data();
   width.len = static_cast<int>(size);
   if (width.needed != 0) {
-    SDL_ConvertAudio(&width);
+    sdl_.ConvertAudio(&width);
     size = static_cast<Uint32>(width.len_cvt);
   }
   samples_.resize(size);
 
-  stream_.reset(SDL_NewAudioStream(AUDIO_S16SYS, 1, spec.freq, AUDIO_S16SYS, 1, kRate));
+  stream_.reset(sdl_.NewAudioStream(AUDIO_S16SYS, 1, spec.freq, AUDIO_S16SYS, 1, kRate));
   seconds_ = static_cast<double>(size) / sizeof(Sint16) / spec.freq;
   ended_ = !stream_;
 }
 
 void Voice::Convert(int bytes) {
-  while (given_ < samples_.size() && SDL_AudioStreamAvailable(stream_.get()) < bytes) {
+  while (given_ < samples_.size() && sdl_.AudioStreamAvailable(stream_.get()) < bytes) {
     const std::size_t piece = std::min(kPiece, samples_.size() - given_);
-    SDL_AudioStreamPut(stream_.get(), samples_.data() + given_, static_cast<int>(piece));
+    sdl_.AudioStreamPut(stream_.get(), samples_.data() + given_, static_cast<int>(piece));
     given_ += piece;
-    if (given_ == samples_.size()) SDL_AudioStreamFlush(stream_.get());
+    if (given_ == samples_.size()) sdl_.AudioStreamFlush(stream_.get());
   }
 }
 
@@ -92,7 +90,7 @@ void Voice::Mix(std::vector<float>& out, float from, float to) {
   piece_.resize(out.size());
   const int wanted = static_cast<int>(piece_.size() * sizeof(Sint16));
   Convert(wanted);
-  const int got = SDL_AudioStreamGet(stream_.get(), piece_.data(), wanted);
+  const int got = sdl_.AudioStreamGet(stream_.get(), piece_.data(), wanted);
   const auto count = static_cast<std::size_t>(std::max(got, 0)) / sizeof(Sint16);
   const float step = (to - from) / static_cast<float>(out.size());
   for (std::size_t i = 0; i < count; ++i) out[i] += piece_[i] * (from + step * static_cast<float>(i));
@@ -144,27 +142,31 @@ std::optional<SoundPlayer::Order> SoundPlayer::NextOrder() {
 
 void SoundPlayer::Start(const Order& order) {
   if (!OpenDevice() || Clock::now() - order.given > kTooLate) return;
-  auto voice = std::make_unique<Voice>(order.image);
+  auto voice = std::make_unique<Voice>(sdl_, order.image);
   const auto length = std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(voice->seconds()));
   letGo_ = Clock::now() + length + kRingOut + kHoldDevice;
-  SDL_LockAudioDevice(device_);
+  sdl_.LockAudioDevice(device_);
   // Swapped rather than freed here: freeing waits for nobody outside the lock.
   fading_.swap(playing_);
   playing_.swap(voice);
-  SDL_UnlockAudioDevice(device_);
+  sdl_.UnlockAudioDevice(device_);
+}
+
+bool SoundPlayer::Prepare() {
+  if (ready_) return true;
+  if (!sdl_.Load()) return false;
+  // Otherwise SDL takes over the signals that end the program.
+  sdl_.SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  QuietAlsa(sdl_);
+  ready_ = sdl_.InitSubSystem(SDL_INIT_AUDIO) == 0;
+  return ready_;
 }
 
 bool SoundPlayer::OpenDevice() {
   // A server that has gone leaves a stopped device behind.
-  if (device_ != 0 && SDL_GetAudioDeviceStatus(device_) == SDL_AUDIO_STOPPED) CloseDevice();
+  if (device_ != 0 && sdl_.GetAudioDeviceStatus(device_) == SDL_AUDIO_STOPPED) CloseDevice();
   if (device_ != 0) return true;
   if (notBefore_ && Clock::now() < *notBefore_) return false;
-  if (!ready_) {
-    // Otherwise SDL takes over the signals that end the program.
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    QuietAlsa();
-    ready_ = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
-  }
   SDL_AudioSpec wanted{};
   wanted.freq = kRate;
   wanted.format = AUDIO_S16SYS;
@@ -172,19 +174,19 @@ bool SoundPlayer::OpenDevice() {
   wanted.samples = kFrames;
   wanted.callback = Feed;
   wanted.userdata = this;
-  if (ready_) device_ = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+  if (Prepare()) device_ = sdl_.OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
   if (device_ == 0) {
     notBefore_ = Clock::now() + kAfterFailure;
     return false;
   }
   notBefore_.reset();
-  SDL_PauseAudioDevice(device_, 0);
+  sdl_.PauseAudioDevice(device_, 0);
   return true;
 }
 
 void SoundPlayer::CloseDevice() {
   letGo_.reset();
-  if (device_ != 0) SDL_CloseAudioDevice(std::exchange(device_, 0));
+  if (device_ != 0) sdl_.CloseAudioDevice(std::exchange(device_, 0));
   playing_.reset();
   fading_.reset();
 }

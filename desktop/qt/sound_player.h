@@ -1,9 +1,6 @@
 // Plays recordings through SDL's audio subsystem, on a thread of its own.
 #pragma once
 
-#include <SDL_audio.h>
-
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <memory>
@@ -13,6 +10,7 @@
 #include <vector>
 
 #include "desktop/desktop.h"
+#include "desktop/qt/sdl.h"
 
 namespace desktop::qt {
 
@@ -21,7 +19,7 @@ namespace desktop::qt {
 class Voice {
  public:
   /// `image` is a complete WAVE file. One that cannot be read is silent.
-  explicit Voice(const WaveImage& image);
+  Voice(const Sdl& sdl, const WaveImage& image);
 
   /// Adds the next samples to `out`, louder or softer by a factor that goes from `from` to `to`.
   void Mix(std::vector<float>& out, float from, float to);
@@ -33,7 +31,8 @@ class Voice {
  private:
   void Convert(int bytes);
 
-  std::unique_ptr<SDL_AudioStream, decltype(&SDL_FreeAudioStream)> stream_{nullptr, SDL_FreeAudioStream};
+  const Sdl& sdl_;
+  std::unique_ptr<SDL_AudioStream, decltype(Sdl::FreeAudioStream)> stream_;
   std::vector<Uint8> samples_;  ///< 16 bits each, at the recording's own rate
   std::size_t given_ = 0;       ///< bytes of them that the stream has
   std::vector<Sint16> piece_;
@@ -65,6 +64,7 @@ class SoundPlayer {
   void Work();
   std::optional<Order> NextOrder();
   void Start(const Order& order);
+  bool Prepare();
   bool OpenDevice();
   void CloseDevice();
   static void Feed(void* player, Uint8* out, int bytes);
@@ -78,6 +78,7 @@ class SoundPlayer {
   std::thread thread_;
 
   // The player's thread alone.
+  Sdl sdl_;
   bool ready_ = false;
   SDL_AudioDeviceID device_ = 0;
   std::optional<Clock::time_point> notBefore_;  ///< after a failure: the next try

@@ -10,6 +10,11 @@ float GroupDraw(int group) { return (static_cast<float>(group) + 0.5F) / 6; }
 
 float SpinDraw(int groups) { return groups == 1 ? 0.25F : 0.75F; }
 
+Store Stashed(std::int64_t tens, std::int64_t fives, std::int64_t ones) {
+  const std::string at = "Thistle and Lantern/Settings/Stash";
+  return {{at + "0", std::to_string(tens)}, {at + "1", std::to_string(fives)}, {at + "2", std::to_string(ones)}};
+}
+
 bool Play::Do(const std::function<void()>& action) {
   if (ended) return false;
   try {
@@ -43,13 +48,38 @@ void Play::DealThrow(int first, int second, int third) {
 
 bool Play::Bet(int denomination, int square, float dx, float dy) {
   for (int n = thistle::kPiecesOfAKind * (denomination + 1) - 1; n >= thistle::kPiecesOfAKind * denomination; --n) {
-    const auto& piece = table().Money[n];
-    const bool home = piece.Top == table().HomeTop[n] && piece.Left == table().HomeLeft[n];
-    if (!piece.Visible || !home) continue;
-    const auto& ground = table().Image1[square];
-    return Do([&] { desktop.Drag(piece.Left + 4, piece.Top + 4, ground.Left + dx, ground.Top + dy); });
+    if (table().Money[n].Visible && IsHome(n)) return Drag(n, OnSquare(square, dx, dy));
   }
   return false;
+}
+
+bool Play::Drag(int piece, Spot to) {
+  const Spot from = Grip(piece);
+  return Do([&] { desktop.Drag(from.x, from.y, to.x, to.y); });
+}
+
+bool Play::Press(int piece) {
+  const Spot from = Grip(piece);
+  return Do([&] { desktop.Press(from.x, from.y); });
+}
+
+bool Play::Move(Spot to) {
+  return Do([&] {
+    desktop.Move(to.x, to.y);
+    desktop.Move(to.x, to.y);
+  });
+}
+
+bool Play::Release(Spot at) {
+  return Do([&] {
+    desktop.Move(at.x, at.y);
+    desktop.Release(at.x, at.y);
+  });
+}
+
+bool Play::ClickChange() {
+  const auto& button = table().Command1;
+  return Do([&] { desktop.ClickAt(button.Left + 5, button.Top + 5); });
 }
 
 bool Play::ThrowCup() {

@@ -1,7 +1,9 @@
 // A run of the program on the simulated desktop, and a player's hands for it.
 #pragma once
 
+#include <array>
 #include <memory>
+#include <stdexcept>
 
 #include "shell/frmMain.h"
 #include "tests/simulated/simulated_desktop.h"
@@ -12,6 +14,23 @@ namespace simulated {
 /// ThrowDice turn it by one group or by two.
 float GroupDraw(int group);
 float SpinDraw(int groups);
+
+/// A store as a run leaves it that ends with these counts in its piles.
+Store Stashed(std::int64_t tens, std::int64_t fives, std::int64_t ones);
+
+/// A point of the frame's client area, in pixels.
+struct Spot {
+  float x;
+  float y;
+};
+
+/// A spot inside a square of the mat, reckoned from its top left corner.
+constexpr Spot OnSquare(int square, float dx = 20, float dy = 20) {
+  return {6 + 104 * static_cast<float>(square) + dx, 156 + dy};
+}
+
+/// Nothing is there: between two squares of the mat.
+inline constexpr Spot kGap{107, 200};
 
 /// One run, from its start to the end of its process. The store outlives it.
 class Play {
@@ -31,6 +50,19 @@ class Play {
   void DealThrow(int first, int second, int third);
   /// Drags the rightmost piece on show in a pile to a spot on a square. False where the pile is empty.
   bool Bet(int denomination, int square, float dx = 20, float dy = 20);
+  /// Where a piece can be gripped: on the strip that the pieces to its right leave free.
+  Spot Grip(int piece) { return {table().Money[piece].Left + 4, table().Money[piece].Top + 4}; }
+  bool Drag(int piece, Spot to);
+  bool Press(int piece);
+  /// The pointer comes to rest there: its last move covers no distance.
+  bool Move(Spot to);
+  /// Moves there and lets go.
+  bool Release(Spot at);
+  bool IsHome(int piece) {
+    return table().Money[piece].Top == table().HomeTop[piece] && table().Money[piece].Left == table().HomeLeft[piece];
+  }
+  /// Clicks "Get Change"; comes back when the exchange is over.
+  bool ClickChange();
   /// Clicks the cup; comes back when the next turn is open or the process has ended.
   bool ThrowCup();
 
@@ -40,6 +72,29 @@ class Play {
   Desktop desktop;
   std::unique_ptr<thistle::frmMain> frame;
   bool ended = false;
+};
+
+/// What AtTable needs before its run begins.
+struct OwnStore {
+  Store store;
+};
+
+/// A run that has come to its first turn.
+class AtTable : public OwnStore, public Play {
+ public:
+  /// With the stake of a fresh game.
+  AtTable() : Play(store) { Begin(); }
+  /// With money of an earlier game.
+  explicit AtTable(std::array<std::int64_t, 3> counts)
+      : OwnStore{Stashed(counts[0], counts[1], counts[2])}, Play(store) {
+    desktop.answers = {true};
+    Begin();
+  }
+
+ private:
+  void Begin() {
+    if (!StartAtTable()) throw std::logic_error("the run ended before its first turn");
+  }
 };
 
 }  // namespace simulated

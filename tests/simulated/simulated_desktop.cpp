@@ -40,6 +40,7 @@ void Desktop::Press(float x, float y, int button) {
     frame_->Show(*form);
     if (button == desktop::kLeftButton) pressedControl_ = control;
   } else {
+    if (button == desktop::kLeftButton) inHand_ = form->ElementAt(x - left, y - top);
     pointer_->Press(*form, button, x - left, y - top);
   }
   afterEvent();
@@ -143,7 +144,7 @@ void Desktop::CloseFrame() { frame_->Close(); }
 
 void Desktop::Idle(double seconds) {
   const double end = clock_ + seconds;
-  while (clock_ < end) RunEventsUntil(end);
+  while (clock_ < end) RestUntil(end);
 }
 
 void Desktop::ShowFrame(desktop::Frame& frame) {
@@ -155,6 +156,14 @@ void Desktop::ShowFrame(desktop::Frame& frame) {
 void Desktop::SetFocus(desktop::Form&, desktop::Element& control) { focus = &control; }
 
 void Desktop::RunEventsUntil(double moment) {
+  ++waits;
+  ++rests;
+  while (auto due = inRest_.extract(rests)) At((clock_ + moment) / 2, std::move(due.mapped()));
+  RestUntil(moment);
+  --waits;
+}
+
+void Desktop::RestUntil(double moment) {
   afterEvent();
   const auto next = events_.begin();
   if (next == events_.end() || next->first > moment) {
@@ -164,9 +173,7 @@ void Desktop::RunEventsUntil(double moment) {
   clock_ = std::max(clock_, next->first);
   const auto event = std::move(next->second);
   events_.erase(next);
-  ++waits;
   event();
-  --waits;
 }
 
 float Desktop::Random() {
@@ -180,6 +187,7 @@ float Desktop::Random() {
 bool Desktop::AskYesNo(std::string_view text, std::string_view title) {
   pointer_->Lose();
   questions.push_back({clock_, std::string(text)});
+  titles.emplace_back(title);
   whileAsked();
   if (answers.empty()) throw std::logic_error("no answer to: " + std::string(title) + ": " + std::string(text));
   const bool answer = answers.front();

@@ -45,6 +45,8 @@ class Desktop : public desktop::Desktop {
   /// their making.
   void At(double moment, std::function<void()> event) { events_.emplace(moment, std::move(event)); }
   void After(double seconds, std::function<void()> event) { At(clock_ + seconds, std::move(event)); }
+  /// Has `event` arrive halfway through a rest of a handler, by its number in `rests`.
+  void InRest(int number, std::function<void()> event) { inRest_.emplace(number, std::move(event)); }
 
   // --- What a player does. Points are pixels in the frame's client area.
 
@@ -71,15 +73,19 @@ class Desktop : public desktop::Desktop {
 
   std::vector<Happening> sounds;
   std::vector<Happening> questions;
+  std::vector<std::string> titles;  ///< of the questions
   std::vector<std::string> saved;   ///< "key=text", in order
   std::vector<std::string> read;    ///< keys, in order
   std::vector<std::string> opened;  ///< addresses of mail and pages, in order
   int drawn = 0;                    ///< random numbers asked for
   int seeded = 0;                   ///< calls of Randomize
-  int waits = 0;                    ///< waits open now, one inside the other
+  int waits = 0;                    ///< waits of handlers open now, one inside the other
+  int rests = 0;                    ///< rests of waiting handlers; an event that comes in splits one in two
   desktop::Element* focus = nullptr;
 
   desktop::Frame& frame() const { return *frame_; }
+  /// The element that holds the mouse, or nullptr.
+  const desktop::Element* InHand() const { return pointer_->HeldOn() ? inHand_ : nullptr; }
 
   // --- desktop::Desktop
   void ShowFrame(desktop::Frame& frame) override;
@@ -104,15 +110,18 @@ class Desktop : public desktop::Desktop {
   desktop::Form* FormAt(float x, float y) const;
   void ClickControl(desktop::Element* control);
   void PressKeyOf(bool desktop::Element::*role);
+  void RestUntil(double moment);
 
   Store& store_;
   desktop::Chance generator_;
   desktop::Frame* frame_ = nullptr;
   std::optional<desktop::Pointer> pointer_;
+  const desktop::Element* inHand_ = nullptr;
   desktop::Element* pressedControl_ = nullptr;
   int held_ = 0;
   double clock_ = 0;
   std::multimap<double, std::function<void()>> events_;
+  std::multimap<int, std::function<void()>> inRest_;
 };
 
 }  // namespace simulated

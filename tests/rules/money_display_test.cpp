@@ -1,0 +1,133 @@
+// What the piles show of the money, and in which order things lie over one another.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/simulated/ledger.h"
+
+namespace {
+
+using simulated::AtTable;
+using simulated::kGap;
+using simulated::OnSquare;
+
+std::vector<int> Shown(simulated::Play& play, int denomination) {
+  std::vector<int> slots;
+  for (int slot = 0; slot < 20; ++slot)
+    if (const int n = 20 * denomination + slot; play.table().Money[n].Visible && play.IsHome(n)) slots.push_back(slot);
+  return slots;
+}
+
+std::vector<int> FirstSlots(int count) {
+  std::vector<int> slots(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) slots[static_cast<std::size_t>(i)] = i;
+  return slots;
+}
+
+/// How many elements lie behind this one.
+auto Layer(simulated::Play& play, const desktop::Element& element) {
+  return std::ranges::find(play.table().Graphics(), &element) - play.table().Graphics().begin();
+}
+
+TEST(Piles, ShowTheirCountFromTheLeftUpToTwenty) {
+  struct Row {
+    std::array<std::int64_t, 3> counts;
+    std::array<int, 3> shown;
+    std::array<const char*, 4> labels;
+  };
+  const Row rows[] = {
+      {{13, 12, 10}, {13, 12, 10}, {"£130", "£60", "£10", "£200"}},
+      {{0, 0, 1}, {0, 0, 1}, {"£0", "£0", "£1", "£1"}},
+      {{20, 21, 0}, {20, 20, 0}, {"£200", "£105", "£0", "£305"}},
+      {{25, 1, 1234567}, {20, 1, 20}, {"£250", "£5", "£1234567", "£1234822"}},
+  };
+  for (const auto& row : rows) {
+    AtTable play(row.counts);
+    for (int d = 0; d < 3; ++d) EXPECT_EQ(Shown(play, d), FirstSlots(row.shown[d]));
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(play.table().Label3[i].Caption, row.labels[i]);
+  }
+}
+
+TEST(Piles, HiddenSlotsAreNotClickable) {
+  AtTable play({0, 0, 3});
+  play.desktop.ClickAt(280, 300);
+  play.desktop.ClickAt(188, 330);
+  play.desktop.Press(184 + 8 * 2 + 25, 360);  // where only the hidden fourth coin reaches
+  EXPECT_EQ(play.desktop.InHand(), nullptr);
+  EXPECT_EQ(play.money().MoneyValue[3], 3);
+}
+
+TEST(Piles, GapsAndSurplusWaitForTheNextRedraw) {
+  AtTable play({27, 0, 1});
+  const simulated::Ledger ledger(play);
+  for (const int n : {19, 4, 5, 6, 0}) ASSERT_TRUE(play.Drag(n, OnSquare(n % 6)));
+  std::vector<int> left = FirstSlots(20);
+  std::erase_if(left, [](int slot) { return slot == 19 || slot == 0 || (slot >= 4 && slot <= 6); });
+  EXPECT_EQ(Shown(play, 0), left);
+  EXPECT_EQ(play.money().MoneyCount[0], 22);
+  EXPECT_EQ(play.table().Label3[0].Caption, "£220");
+
+  play.DealThrow(2, 2, 2);
+  ASSERT_TRUE(play.ThrowCup());
+  EXPECT_EQ(Shown(play, 0), FirstSlots(20));
+  EXPECT_EQ(play.money().MoneyCount[0], 22);
+}
+
+TEST(Piles, GapOfALostPieceCloses) {
+  AtTable play({3, 0, 0});
+  ASSERT_TRUE(play.Drag(1, OnSquare(0)));
+  EXPECT_EQ(Shown(play, 0), (std::vector{0, 2}));
+  play.DealThrow(1, 2, 3);
+  ASSERT_TRUE(play.ThrowCup());
+  EXPECT_EQ(Shown(play, 0), (std::vector{0, 1}));
+  EXPECT_TRUE(play.table().Money[1].Enabled);
+}
+
+TEST(Layers, PilesOverTheMatAndTheLastLiftedPieceOverTheOthers) {
+  AtTable play;
+  auto& table = play.table();
+  ASSERT_TRUE(play.Drag(12, OnSquare(0, 5, 5)));
+  ASSERT_TRUE(play.Drag(49, OnSquare(0, 60, 60)));
+  EXPECT_LT(Layer(play, table.Money[12]), Layer(play, table.Money[49]));
+  ASSERT_TRUE(play.Drag(12, OnSquare(0, 30, 30)));
+  EXPECT_LT(Layer(play, table.Money[49]), Layer(play, table.Money[12]));
+  EXPECT_LT(Layer(play, table.Image1[5]), Layer(play, table.Money[49]));
+
+  // Inside a pile each slot lies over its left neighbour, and coins over notes.
+  auto previous = Layer(play, table.Money[12]);
+  for (int n = 0; n < 60; ++n) {
+    if (!table.Money[n].Visible || !play.IsHome(n)) continue;
+    EXPECT_GT(Layer(play, table.Money[n]), previous) << n;
+    previous = Layer(play, table.Money[n]);
+  }
+  EXPECT_EQ(Layer(play, table.Shape1), 0);
+}
+
+TEST(Layers, PieceInHandIsInFrontOfAll) {
+  AtTable play;
+  ASSERT_TRUE(play.Press(3));
+  EXPECT_EQ(play.table().Graphics().back(), &play.table().Money[3]);
+  ASSERT_TRUE(play.Release(kGap));
+  EXPECT_EQ(play.table().Graphics().back(), &play.table().Money[49]);
+}
+
+TEST(Layers, PayoutsComeToLieOverThePieces) {
+  AtTable play;
+  auto& table = play.table();
+  ASSERT_TRUE(play.Bet(0, 3) && play.Bet(2, 3));
+  play.DealThrow(3, 0, 0);
+  std::vector<const desktop::Element*> seen;
+  play.desktop.afterEvent = [&] {
+    for (const int p : {45, 46})
+      if (table.Payout[p].Visible && std::ranges::find(seen, &table.Payout[p]) == seen.end()) {
+        EXPECT_EQ(table.Graphics().back(), &table.Payout[p]);
+        // The stake stays where it is, under what is paid for it.
+        EXPECT_TRUE(table.Money[12].Visible && table.Money[49].Visible && !play.IsHome(12) && !play.IsHome(49));
+        seen.push_back(&table.Payout[p]);
+      }
+  };
+  ASSERT_TRUE(play.ThrowCup());
+  EXPECT_EQ(seen.size(), 2U);
+}
+
+}  // namespace

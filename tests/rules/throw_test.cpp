@@ -1,0 +1,146 @@
+// The course of a throw in time: cup, dice and sounds; and the one wait.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "tests/simulated/recorder.h"
+
+namespace {
+
+using simulated::AtTable;
+using simulated::Lines;
+
+constexpr std::array kSquareOfGroup{0, 3, 4, 5, 2, 1};
+
+struct Deal {
+  std::array<int, 3> groups;  ///< on which each die starts
+  std::array<int, 3> spins;   ///< groups by which each die turns
+  int lastTick;
+};
+
+void DealDice(simulated::Play& play, const Deal& deal) {
+  for (const int group : deal.groups) play.desktop.chance.push_back(simulated::GroupDraw(group));
+  for (const int spin : deal.spins) play.desktop.chance.push_back(simulated::SpinDraw(spin));
+}
+
+TEST(Throw, CupAndSounds) {
+  AtTable play;
+  simulated::Recorder recorder(play);
+  recorder.WatchCup();
+  DealDice(play, {{0, 0, 0}, {1, 1, 1}, 6});
+  recorder.Start();
+  ASSERT_TRUE(play.ThrowCup());
+  EXPECT_EQ(recorder.lines,
+            (Lines{"0.000 cup=CupCentre", "0.000 SHAKEDICE",  //
+                   "0.700 cup=CupRight", "0.860 cup=CupLeft", "1.020 cup=CupRight", "1.180 cup=CupLeft",
+                   "1.340 cup=CupRight", "1.500 cup=CupLeft", "1.660 cup=CupRight", "1.820 cup=CupLeft",
+                   "1.980 cup=CupRight", "2.140 cup=CupLeft", "2.300 cup=CupRight", "2.460 cup=CupLeft",
+                   "2.620 cup=CupThrow", "2.920 cup=CupStanding", "2.920 ROLLDICE", "3.170 ROLLDICEEND"}));
+  EXPECT_NEAR(play.desktop.Clock(), 3.22, 1e-9);
+}
+
+TEST(Throw, EachDieRollsItsOwnWay) {
+  const Deal deals[] = {
+      {{5, 0, 3}, {1, 1, 1}, 6},  {{5, 0, 3}, {2, 1, 1}, 8},  {{4, 1, 2}, {1, 2, 1}, 9},  {{0, 0, 0}, {2, 2, 1}, 9},
+      {{1, 5, 4}, {1, 1, 2}, 10}, {{2, 1, 5}, {2, 1, 2}, 10}, {{3, 4, 0}, {1, 2, 2}, 10}, {{4, 0, 4}, {2, 2, 2}, 10},
+  };
+  for (const auto& deal : deals) {
+    AtTable play;
+    const auto& table = play.table();
+    DealDice(play, deal);
+    int ticks = 0;
+    play.desktop.afterEvent = [&] {
+      const double now = play.desktop.Clock();
+      if (play.desktop.waits == 0) return;
+      const int tick = now < 2.9 ? 0 : static_cast<int>(std::lround((now - 2.92) / 0.05)) + 1;
+      ticks = tick;
+      for (int die = 0; die < 3; ++die) {
+        const int turned = std::clamp(tick - die, 0, 4 * deal.spins[die]);
+        const int frame = (4 * deal.groups[die] + (die == 1 ? 24 - turned : turned)) % 24;
+        EXPECT_EQ(table.Dice[die].Visible, turned > 0) << "die " << die << ", tick " << tick;
+        EXPECT_EQ(table.DiceFrame[die], frame) << "die " << die << ", tick " << tick;
+        EXPECT_EQ(table.DiceSquare[die], kSquareOfGroup[frame / 4]);
+        char picture[] = "Anidice00";
+        picture[7] = static_cast<char>('0' + frame / 10);
+        picture[8] = static_cast<char>('0' + frame % 10);
+        EXPECT_EQ(table.Dice[die].Picture->name, picture);
+      }
+    };
+    ASSERT_TRUE(play.ThrowCup());
+    EXPECT_EQ(ticks, deal.lastTick);
+    EXPECT_NEAR(play.desktop.sounds.back().time, 2.92 + 0.05 * (deal.lastTick - 1), 1e-9);
+    EXPECT_EQ(play.desktop.sounds.back().what, "ROLLDICEEND");
+    EXPECT_NEAR(play.desktop.Clock(), 2.92 + 0.05 * deal.lastTick, 1e-9);
+    for (int die = 0; die < 3; ++die) {
+      const int turned = die == 1 ? 6 - deal.spins[die] : deal.spins[die];
+      EXPECT_EQ(table.DiceFrame[die], 4 * ((deal.groups[die] + turned) % 6));
+    }
+  }
+}
+
+TEST(Throw, DrawsAndSeeds) {
+  simulated::Store store;
+  simulated::Play play(store);
+  const float almostOne = std::nextafter(1.0F, 0.0F);
+  play.desktop.chance = {almostOne, 0.0F, 1.0F / 6};
+  ASSERT_TRUE(play.Start());
+  EXPECT_EQ(play.desktop.seeded, 0);
+  ASSERT_TRUE(play.Do([&] { play.desktop.Enter(); }));
+  EXPECT_EQ(play.desktop.seeded, 1);
+  EXPECT_EQ(play.desktop.drawn, 3);
+  EXPECT_EQ(play.table().DiceFrame, (std::array{20, 0, 4}));
+  EXPECT_EQ(play.table().DiceSquare, (std::array{1, 0, 3}));
+  for (const auto& die : play.table().Dice) EXPECT_TRUE(die.Visible);
+
+  ASSERT_TRUE(play.ThrowCup() && play.Bet(2, 0) && play.ThrowCup());
+  EXPECT_EQ(play.desktop.drawn, 3 + 2 * 6);
+  play.desktop.answers = {true};
+  play.desktop.Menu("mnuNewGame");
+  EXPECT_EQ(play.desktop.drawn, 3 + 2 * 6);
+  EXPECT_EQ(play.desktop.seeded, 1);
+}
+
+TEST(Throw, NothingOnTheTableReacts) {
+  AtTable play;
+  ASSERT_TRUE(play.Bet(2, 0));
+  play.DealThrow(0, 1, 1);
+  int tried = 0;
+  for (double moment = 0.01; moment < 6.9; moment += 0.1)
+    play.desktop.At(moment, [&] {
+      if (play.desktop.waits == 0) return;
+      ++tried;
+      for (const auto [x, y] : {simulated::Spot{45, 80}, {230, 300}, {230, 330}, {230, 360}, {30, 180}, {500, 385}})
+        play.desktop.Drag(x, y, 130, 200);
+    });
+  ASSERT_TRUE(play.ThrowCup());
+  EXPECT_GT(tried, 40);
+  EXPECT_EQ(play.money().MoneyCount, (std::array<std::int64_t, 3>{13, 12, 11}));
+  EXPECT_EQ(play.desktop.drawn, 9);
+}
+
+TEST(Wait, OfNothingRunsNoEvents) {
+  AtTable play;
+  bool ran = false;
+  play.desktop.At(0, [&] { ran = true; });
+  play.table().FixedDelay(0);
+  play.table().FixedDelay(-1);
+  EXPECT_FALSE(ran);
+  EXPECT_EQ(play.desktop.Clock(), 0);
+}
+
+TEST(Wait, EndsAfterAnyWaitNestedInIt) {
+  AtTable play;
+  double innerEnd = 0;
+  play.desktop.At(0.3, [] {});
+  play.desktop.At(0.4, [&] {
+    play.table().FixedDelay(2);
+    innerEnd = play.desktop.Clock();
+  });
+  play.table().FixedDelay(1);
+  EXPECT_DOUBLE_EQ(innerEnd, 2.4);
+  EXPECT_DOUBLE_EQ(play.desktop.Clock(), 2.4);
+  play.table().FixedDelay(1);
+  EXPECT_DOUBLE_EQ(play.desktop.Clock(), 3.4);
+}
+
+}  // namespace
