@@ -28,7 +28,7 @@ class Frame {
   std::string Caption;
   float Left = 0;                           ///< twips on the screen, border included; kept up to date by the desktop
   float Top = 0;                            ///< twips, as Left
-  bool HasPlace = true;    ///< false where the platform tells no window its place
+  bool HasPlace = true;                     ///< false where the platform tells no window its place
   int ClientWidth = 0;                      ///< pixels inside, in the normal state
   int ClientHeight = 0;                     ///< pixels inside and below the menu bar, in the normal state
   WindowState State = WindowState::Normal;  ///< the platform's; written by the desktop alone

@@ -1,0 +1,243 @@
+"""A display of one's own: a virtual X server, a window manager on it, its mouse, keys and windows."""
+
+import ctypes
+import os
+import select
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+from PIL import Image
+from Xlib import X, XK, Xatom, display, error
+from Xlib.ext import xfixes, xtest
+from Xlib.protocol import event
+
+PATIENCE = 30  # seconds; far more than anything takes on an idle machine
+
+
+def wait_until(what, look, patience=PATIENCE):
+    """Looks until it sees something, and returns that. `what` names it when it does not come."""
+    end = time.monotonic() + patience
+    while not (seen := look()):
+        if time.monotonic() > end:
+            raise AssertionError(f"waited in vain for {what}")
+        time.sleep(0.02)
+    return seen
+
+
+def start(command, **options):
+    """Starts a child process that cannot outlive this one."""
+
+    def die_with_parent():
+        ctypes.CDLL(None).prctl(1, signal.SIGKILL)
+
+    return subprocess.Popen(command, preexec_fn=die_with_parent, **options)
+
+
+def stop(process):
+    if process.poll() is None:
+        process.kill()
+    process.wait()
+
+
+def environment(home, **more):
+    """What a program is started with: nothing of the user's desktop, and all its files under `home`."""
+    kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS") if name in os.environ}
+    return {**kept, "LANG": "C.UTF-8", "HOME": home, "XDG_RUNTIME_DIR": home, "XDG_CONFIG_HOME": home + "/config",
+            "XDG_CACHE_HOME": home + "/cache", "SDL_AUDIODRIVER": "dummy", **more}
+
+
+class Desk:
+    """The virtual display. Use it in a `with`: all that it started ends with it."""
+
+    def __init__(self, window_manager="openbox", size=(1280, 960)):
+        self.window_manager = window_manager
+        self.size = size
+        self.display = None
+        self._children = []
+
+    def __enter__(self):
+        self._folder = tempfile.TemporaryDirectory(prefix="desk-", ignore_cleanup_errors=True)
+        self.home = self._folder.name
+        try:
+            self._start_server()
+            if self.window_manager:
+                self._start_window_manager()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        if self.display:
+            self.display.close()
+        for child in reversed(self._children):
+            stop(child)
+        self._folder.cleanup()
+
+    def start(self, command, quiet=False, **variables):
+        words = subprocess.DEVNULL if quiet else None
+        child = start(command, env=environment(self.home, DISPLAY=self.name, **variables), stdin=subprocess.DEVNULL,
+                      stdout=words, stderr=words)
+        self._children.append(child)
+        return child
+
+    def _start_server(self):
+        for program in filter(None, ("Xvfb", self.window_manager)):
+            if not shutil.which(program):
+                raise FileNotFoundError(f"{program} is not installed")
+        there, here = os.pipe()
+        server = start(["Xvfb", "-displayfd", str(here), "-screen", "0", "{}x{}x24".format(*self.size), "-noreset",
+                        "-nolisten", "tcp"], pass_fds=[here], stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self._children.append(server)
+        os.close(here)
+        with os.fdopen(there) as number:
+            # The server tells its number when it is ready, or closes the pipe when it gives up.
+            if not select.select([number], [], [], PATIENCE)[0] or not (line := number.readline().strip()):
+                raise RuntimeError("the virtual display does not start")
+        self.name = ":" + line
+        self.display = display.Display(self.name)
+        self.display.set_error_handler(lambda *_: None)  # windows may go between a look and a request
+        self.root = self.display.screen().root
+        self.display.xfixes_query_version()
+
+    def _start_window_manager(self):
+        command, variables = [self.window_manager], {"NO_AT_BRIDGE": "1"}
+        if self.window_manager == "xfwm4":
+            # It reads its settings over a session bus.
+            command.append("--compositor=off")
+            variables["DBUS_SESSION_BUS_ADDRESS"] = bus = f"unix:path={self.home}/bus"
+            self.start(["dbus-daemon", "--session", "--nofork", "--address=" + bus], quiet=True)
+            wait_until("the session bus", lambda: os.path.exists(self.home + "/bus"))
+        self.start(command, quiet=True, **variables)
+        check = self.display.intern_atom("_NET_SUPPORTING_WM_CHECK")
+        wait_until(self.window_manager, lambda: self.root.get_full_property(check, Xatom.WINDOW))
+
+    # --- Mouse and keys
+
+    def move(self, x, y):
+        xtest.fake_input(self.display, X.MotionNotify, x=x, y=y)
+        self.display.sync()
+
+    def press(self, button=1):
+        xtest.fake_input(self.display, X.ButtonPress, button)
+        self.display.sync()
+
+    def release(self, button=1):
+        xtest.fake_input(self.display, X.ButtonRelease, button)
+        self.display.sync()
+
+    def click(self, x, y):
+        self.move(x, y)
+        self.press()
+        self.release()
+
+    def drag(self, start, end, steps=8):
+        """Press, move in steps, and leave the button down."""
+        self.move(*start)
+        self.press()
+        for step in range(1, steps + 1):
+            self.move(*(round(a + (b - a) * step / steps) for a, b in zip(start, end)))
+
+    def key(self, *names):
+        """Presses keys together, such as "Alt_L", "g"."""
+        codes = [self.display.keysym_to_keycode(XK.string_to_keysym(name)) for name in names]
+        for code in codes:
+            xtest.fake_input(self.display, X.KeyPress, code)
+        for code in reversed(codes):
+            xtest.fake_input(self.display, X.KeyRelease, code)
+        self.display.sync()
+
+    def pointer_shape(self):
+        """The pixels of the pointer as it is shown now."""
+        return bytes(value & 255 for value in self.display.xfixes_get_cursor_image(self.root).cursor_image)
+
+    # --- Windows and pixels
+
+    def picture(self, left, top, width, height):
+        """A piece of the screen; black where it reaches beyond."""
+        screen = self.root.get_geometry()
+        x, y = max(left, 0), max(top, 0)
+        size = min(left + width, screen.width) - x, min(top + height, screen.height) - y
+        raw = self.root.get_image(x, y, *size, X.ZPixmap, 0xFFFFFFFF)
+        picture = Image.new("RGB", (width, height))
+        picture.paste(Image.frombytes("RGB", size, raw.data, "raw", "BGRX"), (x - left, y - top))
+        return picture
+
+    def windows(self, pid):
+        """The process's windows on the screen, back to front."""
+        owner = self.display.intern_atom("_NET_WM_PID")
+        found = []
+
+        def walk(window):
+            for child in window.query_tree().children:
+                try:
+                    pids = child.get_full_property(owner, Xatom.CARDINAL)
+                    if child.get_attributes().map_state != X.IsViewable:
+                        continue
+                    if pids and pids.value[0] == pid:
+                        found.append(Window(self, child))
+                    else:
+                        walk(child)
+                except error.XError:
+                    pass  # it has just gone
+
+        walk(self.root)
+        return found
+
+
+class Window:
+    """A program's window. Places are the X server's own, never the program's word."""
+
+    def __init__(self, desk, window):
+        self.desk = desk
+        self.window = window
+        self.id = window.id
+
+    def rect(self):
+        """Left, top, width and height on the screen, without any decoration."""
+        at = self.desk.root.translate_coords(self.window, 0, 0)
+        size = self.window.get_geometry()
+        return at.x, at.y, size.width, size.height
+
+    def frame(self):
+        """The same, with the window manager's decoration."""
+        outermost = self.window
+        while (parent := outermost.query_tree().parent).id != self.desk.root.id:
+            outermost = parent
+        return Window(self.desk, outermost).rect()
+
+    def title(self):
+        return self.window.get_full_text_property(self.desk.display.intern_atom("_NET_WM_NAME"))
+
+    def is_menu(self):
+        return bool(self.window.get_attributes().override_redirect)
+
+    def is_shown(self):
+        try:
+            return self.window.get_attributes().map_state == X.IsViewable
+        except error.XError:
+            return False
+
+    def picture(self):
+        return self.desk.picture(*self.rect())
+
+    def has_focus(self):
+        focus = self.desk.display.get_input_focus().focus
+        return getattr(focus, "id", None) == self.id
+
+    def close(self):
+        """What the window manager sends for a click on the close button."""
+        atom = self.desk.display.intern_atom
+        self._send(self.window, atom("WM_PROTOCOLS"), [atom("WM_DELETE_WINDOW"), X.CurrentTime])
+
+    def ask_manager(self, message, *data):
+        mask = X.SubstructureRedirectMask | X.SubstructureNotifyMask
+        self._send(self.desk.root, self.desk.display.intern_atom(message), list(data), mask)
+
+    def _send(self, to, message, data, mask=0):
+        data = (data + [0] * 5)[:5]
+        to.send_event(event.ClientMessage(window=self.window, client_type=message, data=(32, data)), mask)
+        self.desk.display.sync()

@@ -1,0 +1,113 @@
+#!/usr/bin/python3
+"""The painted table against the tables of places and colours, at several densities of the screen."""
+
+import unittest
+
+from desk import Desk, wait_until
+from game import (CAPTIONS, CLIENT, CLOTH, CLOTH_BOX, CUP, FRESH, INSTRUCTION, INSTRUCTIONS, MAT, MONEY_TEXTS,
+                  SQUARES, TEXTS, Game, box, carried, device, dice_frames, differs_in, difference, is_blank,
+                  pile_place, table)
+from PIL import Image, ImageChops, ImageStat
+
+
+def edges(canvas, colour, row):
+    """Where stretches of a colour begin and end along a row of pixels."""
+    line = [canvas.getpixel((x, row)) == colour for x in range(canvas.width)]
+    return [x for x in range(1, canvas.width) if line[x] != line[x - 1]]
+
+
+def unlike(canvas, picture, left, top):
+    there = canvas.crop((left, top, left + picture.width, top + picture.height))
+    return sum(ImageStat.Stat(ImageChops.difference(there, picture)).mean)
+
+
+class Table(unittest.TestCase):
+    def whole(self, scale):
+        with Desk(size=(1440, 1000)) as desk, Game(desk, scale) as game:
+            game.play()
+            canvas = game.canvas()
+        self.assertEqual(canvas.size, (CLIENT[0] * scale, CLIENT[1] * scale))
+        frames = dice_frames(canvas, scale)
+        self.assertNotIn(None, frames, "a die at rest on a face, from the first")
+        self.assertIsNone(difference(canvas, table(FRESH, frames, scale=scale), TEXTS, scale))
+        for place in TEXTS:
+            colours = len(box(canvas, place, scale).getcolors(100000))
+            self.assertGreater(colours, 4, f"no text at {place}")
+        left, top, width, height = INSTRUCTIONS[0]
+        for edge in ((left, top, width, 1), (left, top + height - 1, width, 1), (left, top, 2, height)):
+            self.assertTrue(is_blank(canvas, edge, INSTRUCTION, scale))
+
+    def test_every_pixel_at_scale_1(self):
+        self.whole(1)
+
+    def test_every_pixel_at_scale_2(self):
+        self.whole(2)
+
+    def between(self, scale):
+        with Desk(size=(1440, 1000)) as desk, Game(desk, scale) as game:
+            game.play()
+            canvas = game.canvas()
+        # The squares are drawn in whole pixels: no edge has a mixed colour.
+        row = device(SQUARES[0][1] + 97, scale)
+        rim = device(CLOTH_BOX[0], scale), device(CLOTH_BOX[0] + CLOTH_BOX[2], scale)
+        mats = [device(x, scale) for left, _, width, _ in SQUARES for x in (left, left + width)]
+        self.assertEqual(edges(canvas, CLOTH, row), [rim[0], *mats, rim[1]])
+        column = canvas.rotate(90, expand=True).transpose(Image.Transpose.FLIP_TOP_BOTTOM)
+        x = device(CAPTIONS[0][0], scale) + 1
+        self.assertEqual(edges(column, CLOTH, x), [device(y, scale) for y in (152, 156, 264, 268)])
+        self.assertEqual(edges(column, MAT, x), [device(y, scale) for y in (156, 264)])
+        # A reduced picture is nowhere more like itself than at its place.
+        pieces = [("TenPound", pile_place(0, 12)), ("FivePound", pile_place(1, 11)), ("CupStanding", CUP[:2]),
+                  ("MatClub", SQUARES[3][:2])]
+        for name, place in pieces:
+            small = carried(name).size
+            picture = carried(name, 2).convert("RGB").resize([device(side, scale) for side in small],
+                                                             Image.Resampling.BOX)
+            at = [device(value, scale) for value in place]
+            here = unlike(canvas, picture, *at)
+            for step in ((1, 0), (-1, 0), (0, 1), (0, -1)):
+                if at[0] + step[0] >= 0:
+                    self.assertLess(here, unlike(canvas, picture, at[0] + step[0], at[1] + step[1]), (name, step))
+
+    def test_places_at_scale_1_25(self):
+        self.between(1.25)
+
+    def test_places_at_scale_1_5(self):
+        self.between(1.5)
+
+    def test_drop_at_scale_1_5_lies_under_the_pointer(self):
+        with Desk(size=(1440, 1000)) as desk, Game(desk, 1.5) as game:
+            game.play()
+            before = game.canvas()
+            game.drag(pile_place(2, 9), (SQUARES[1][0] + 40, SQUARES[1][1] + 20))
+            desk.release()
+            wait_until("the stake", lambda: differs_in(game.canvas(), before, CAPTIONS[1], 1.5))
+            seat = box(game.canvas(), (*(side + off for side, off in zip(SQUARES[1], (40, 20))), 20, 20), 1.5)
+            pile = box(before, (*pile_place(2, 9), 20, 20), 1.5)
+            middle = (6, 6, 24, 24)
+            self.assertEqual(seat.crop(middle).tobytes(), pile.crop(middle).tobytes())
+
+    def test_piece_in_the_hand_leaves_no_trail(self):
+        with Desk() as desk, Game(desk) as game:
+            game.play()
+            frames = dice_frames(game.canvas())
+            arrow = desk.pointer_shape()
+            home = pile_place(0, 12)
+            # From its pile over cloth and table, half out of the window, and onto a square, where alone it may drop.
+            desk.move(*game.grip(home))
+            desk.press()
+            for place in ((98, 120), (350, 330), (-30, 200), (223, 190)):
+                desk.move(*game.grip(place))
+                painted = table([12, *FRESH[1:]], frames, [("TenPound", place)])
+                wait_until(f"the piece at {place}",
+                           lambda: difference(game.canvas(), painted, MONEY_TEXTS + INSTRUCTIONS[:1]) is None)
+                may_drop = place == (223, 190)
+                wait_until("the right pointer", lambda: (desk.pointer_shape() == arrow) == may_drop)
+            desk.move(*game.grip((300, 20)))
+            desk.release()
+            wait_until("the piece at home", lambda: difference(game.canvas(), table(FRESH, frames), TEXTS) is None)
+            wait_until("the arrow", lambda: desk.pointer_shape() == arrow)
+
+
+if __name__ == "__main__":
+    unittest.main()

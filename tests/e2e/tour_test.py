@@ -1,0 +1,81 @@
+#!/usr/bin/python3
+"""A whole turn in the real window, pixel by pixel, down to the money in the store."""
+
+import unittest
+
+from desk import Desk
+from game import (CAPTIONS, CUP_FRAMES, FRESH, GET_CHANGE, INSTRUCTIONS, MAT, MONEY_PICTURES, MONEY_TEXTS, SQUARES,
+                  TABLE, TEXTS, VALUES, Game, dice_frames, dice_squares, differs_in, difference, is_blank,
+                  payout_place, settings, table)
+from tour import PUSHED, STAKES, payout, tour
+
+
+class Tour(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.stages = {}
+        with Desk() as desk, Game(desk) as game:
+            for stage in tour(game):
+                cls.stages[stage.name] = stage.canvas
+            cls.status = game.close()
+            cls.stored = settings(desk)
+        cls.dice = dice_squares(cls.stages["settlement"])
+        cls.staked = [(MONEY_PICTURES[piece], (SQUARES[s][0] + at[0], SQUARES[s][1] + at[1]))
+                      for s, (piece, _, drop) in enumerate(STAKES) for at in [PUSHED.get(s, drop)]]
+        cls.left = [count - sum(piece == d for piece, _, _ in STAKES) for d, count in enumerate(FRESH)]
+
+    def test_a_piece_dropped_on_a_square_lies_there_and_has_left_the_pile(self):
+        before, bets = self.stages["table"], self.stages["bets"]
+        painted = table(self.left, dice_frames(before), self.staked, instructions=2)
+        self.assertIsNone(difference(bets, painted, MONEY_TEXTS + INSTRUCTIONS + CAPTIONS))
+        for place in VALUES:
+            self.assertTrue(differs_in(bets, before, place), "an amount does not follow the bets")
+        for place in CAPTIONS:
+            self.assertFalse(is_blank(bets, place, MAT), "a stake without a caption")
+            self.assertTrue(is_blank(before, place, MAT))
+        self.assertTrue(is_blank(before, INSTRUCTIONS[1], TABLE), "the cup is offered before there is a stake")
+
+    def test_the_shaken_cup_shows_alone_and_the_dice_are_away(self):
+        for name, place in CUP_FRAMES.items():
+            if name not in self.stages:
+                continue
+            canvas = self.stages[name]
+            painted = table(self.left, [None] * 3, self.staked + [(name, place)], instructions=0, cup=False)
+            self.assertIsNone(difference(canvas, painted, MONEY_TEXTS + CAPTIONS), name)
+
+    def test_the_dice_come_to_rest_on_a_face(self):
+        self.assertEqual(dice_squares(self.stages["next-turn"]), self.dice)
+        self.assertNotIn(None, dice_squares(self.stages["dice"]))
+
+    def test_squares_are_settled_by_the_dice(self):
+        canvas = self.stages["settlement"]
+        # A losing stake has gone. Under the payouts lies a stake that wins, and behind the last winner wait the rest.
+        pieces = [self.staked[s] for s in range(6) if s in self.dice or s > max(self.dice)]
+        for s in range(6):
+            pieces += [(MONEY_PICTURES[d], payout_place(s, slot)) for slot, d in enumerate(payout(s, self.dice))]
+        painted = table(self.left, dice_frames(canvas), pieces, instructions=0)
+        self.assertIsNone(difference(canvas, painted, MONEY_TEXTS + CAPTIONS), f"dice {self.dice}")
+        captions = {s: canvas.crop((left, top, left + width, top + height)).tobytes()
+                    for s, (left, top, width, height) in enumerate(CAPTIONS[:max(self.dice) + 1])}
+        lost = {captions[s] for s in captions if s not in self.dice}
+        self.assertLessEqual(len(lost), 1, "one word for every loss")
+        self.assertFalse(lost & {captions[s] for s in self.dice})
+
+    def test_the_next_turn_has_the_money_that_the_dice_say(self):
+        money = list(self.left)
+        for s, (piece, _, _) in enumerate(STAKES):
+            pieces = payout(s, self.dice)
+            money[piece] += bool(pieces)
+            for paid in pieces:
+                money[paid] += 1
+        canvas = self.stages["next-turn"]
+        painted = table(money, dice_frames(canvas))
+        self.assertIsNone(difference(canvas, painted, TEXTS), "a clean mat, and the piles with what was won")
+        self.assertTrue(is_blank(canvas, INSTRUCTIONS[1], TABLE))
+        self.assertFalse(is_blank(canvas, GET_CHANGE, TABLE))
+        self.assertEqual([self.stored[f"Stash{d}"] for d in range(3)], [str(count) for count in money])
+        self.assertEqual(self.status, 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
