@@ -30,7 +30,7 @@ constexpr auto kHoldDevice = 3s;
 constexpr auto kRingOut = 500ms;
 
 // Where opening has failed, it is not tried again at every sound.
-constexpr auto kAfterFailure = 10s;
+constexpr auto kAfterFailure = 2s;
 
 // A sound that could not be started for so long would be out of step with what is seen.
 constexpr auto kTooLate = 400ms;

@@ -75,17 +75,18 @@ class Table(unittest.TestCase):
     def test_places_at_scale_1_5(self):
         self.between(1.5)
 
-    def test_drop_at_scale_1_5_lies_under_the_pointer(self):
+    def test_drop_at_scale_1_5_lies_at_the_nearest_pixel(self):
         with Desk(size=(1440, 1000)) as desk, Game(desk, 1.5) as game:
             game.play()
             before = game.canvas()
-            game.drag(pile_place(2, 9), (SQUARES[1][0] + 40, SQUARES[1][1] + 20))
+            home, aim = pile_place(2, 9), (SQUARES[1][0] + 40, SQUARES[1][1] + 20)
+            # One pixel of the screen is two thirds of the layout's: nearer to the next.
+            desk.drag(game.grip(home), [value + 1 for value in game.grip(aim)])
             desk.release()
             wait_until("the stake", lambda: differs_in(game.canvas(), before, CAPTIONS[1], 1.5))
-            seat = box(game.canvas(), (*(side + off for side, off in zip(SQUARES[1], (40, 20))), 20, 20), 1.5)
-            pile = box(before, (*pile_place(2, 9), 20, 20), 1.5)
             middle = (6, 6, 24, 24)
-            self.assertEqual(seat.crop(middle).tobytes(), pile.crop(middle).tobytes())
+            seat = box(game.canvas(), (aim[0] + 1, aim[1] + 1, 20, 20), 1.5).crop(middle)
+            self.assertEqual(seat.tobytes(), box(before, (*home, 20, 20), 1.5).crop(middle).tobytes())
 
     def test_piece_in_the_hand_leaves_no_trail(self):
         with Desk() as desk, Game(desk) as game:
