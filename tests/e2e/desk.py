@@ -1,6 +1,7 @@
 """A display of one's own: a virtual X server, a window manager on it, its mouse, keys and windows."""
 
 import ctypes
+import functools
 import os
 import select
 import shutil
@@ -11,7 +12,7 @@ import time
 
 from PIL import Image
 from Xlib import X, XK, Xatom, display, error
-from Xlib.ext import xfixes, xtest
+from Xlib.ext import xtest
 from Xlib.protocol import event
 
 PATIENCE = 30  # seconds; far more than anything takes on an idle machine
@@ -29,24 +30,13 @@ def wait_until(what, look, patience=PATIENCE):
 
 def start(command, **options):
     """Starts a child process that cannot outlive this one."""
-
-    def die_with_parent():
-        ctypes.CDLL(None).prctl(1, signal.SIGKILL)
-
-    return subprocess.Popen(command, preexec_fn=die_with_parent, **options)
+    die_with_parent = functools.partial(ctypes.CDLL(None).prctl, 1, signal.SIGKILL)
+    return subprocess.Popen(command, preexec_fn=die_with_parent, stdin=subprocess.DEVNULL, **options)
 
 
 def stop(process):
-    if process.poll() is None:
-        process.kill()
+    process.kill()
     process.wait()
-
-
-def environment(home, **more):
-    """What a program is started with: nothing of the user's desktop, and all its files under `home`."""
-    kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS") if name in os.environ}
-    return {**kept, "LANG": "C.UTF-8", "HOME": home, "XDG_RUNTIME_DIR": home, "XDG_CONFIG_HOME": home + "/config",
-            "XDG_CACHE_HOME": home + "/cache", "SDL_AUDIODRIVER": "dummy", **more}
 
 
 class Desk:
@@ -78,20 +68,23 @@ class Desk:
         self._folder.cleanup()
 
     def start(self, command, quiet=False, **variables):
+        """Starts a program on this display, with nothing of the user's desktop and files."""
+        kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS") if name in os.environ}
+        kept |= {"LANG": "C.UTF-8", "HOME": self.home, "XDG_RUNTIME_DIR": self.home, "SDL_AUDIODRIVER": "dummy",
+                 "XDG_CONFIG_HOME": self.home + "/config", "XDG_CACHE_HOME": self.home + "/cache"}
         words = subprocess.DEVNULL if quiet else None
-        child = start(command, env=environment(self.home, DISPLAY=self.name, **variables), stdin=subprocess.DEVNULL,
-                      stdout=words, stderr=words)
-        self._children.append(child)
-        return child
+        self._children.append(start(command, env={**kept, "DISPLAY": self.name, **variables}, stdout=words,
+                                    stderr=words))
+        return self._children[-1]
 
     def _start_server(self):
         for program in filter(None, ("Xvfb", self.window_manager)):
             if not shutil.which(program):
                 raise FileNotFoundError(f"{program} is not installed")
         there, here = os.pipe()
-        server = start(["Xvfb", "-displayfd", str(here), "-screen", "0", "{}x{}x24".format(*self.size), "-noreset",
-                        "-nolisten", "tcp"], pass_fds=[here], stdin=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        self._children.append(server)
+        screen = "{}x{}x24".format(*self.size)
+        server = ["Xvfb", "-displayfd", str(here), "-screen", "0", screen, "-noreset", "-nolisten", "tcp"]
+        self._children.append(start(server, pass_fds=[here], stderr=subprocess.DEVNULL))
         os.close(here)
         with os.fdopen(there) as number:
             # The server tells its number when it is ready, or closes the pipe when it gives up.
@@ -114,6 +107,19 @@ class Desk:
         self.start(command, quiet=True, **variables)
         check = self.display.intern_atom("_NET_SUPPORTING_WM_CHECK")
         wait_until(self.window_manager, lambda: self.root.get_full_property(check, Xatom.WINDOW))
+        wait_until(f"{self.window_manager} to show windows", self._shows_a_probe)
+
+    def _shows_a_probe(self):
+        """While it starts, a window manager may forget a window that asks to be shown. So ask until one is."""
+        probe = self.root.create_window(0, 0, 9, 9, 0, X.CopyFromParent)
+        probe.map()
+        try:
+            return wait_until("a probe", Window(self, probe).is_shown, patience=1)
+        except AssertionError:
+            return False
+        finally:
+            probe.destroy()
+            self.display.sync()
 
     # --- Mouse and keys
 

@@ -82,11 +82,6 @@ class Ending(unittest.TestCase):
             self.assertEqual(game.ended(), 0)
         self.assertEqual(settings(self.desk)["Stash1"], "40")
 
-    def test_store_out_of_reach_stops_nothing(self):
-        with Game(self.desk, XDG_CONFIG_HOME="/dev/null/nowhere") as game:
-            game.play()
-            self.assertEqual(game.close(), 0)
-
 
 if __name__ == "__main__":
     unittest.main()

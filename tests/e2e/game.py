@@ -9,7 +9,7 @@ import subprocess
 
 from PIL import Image, ImageChops
 
-from desk import wait_until
+from desk import stop, wait_until
 
 PICTURES = pathlib.Path(__file__).parents[2] / "Graphics" / "pictures"
 TITLE = "Thistle and Lantern"
@@ -87,10 +87,6 @@ def differs_in(canvas, other, place, scale=1):
 
 def is_blank(canvas, place, colour, scale=1):
     return box(canvas, place, scale).getcolors(1) == [(device(place[2], scale) * device(place[3], scale), colour)]
-
-
-def count_of(picture, colour):
-    return sum(count for count, value in picture.getcolors(picture.width * picture.height) if value == colour)
 
 
 def dice_squares(canvas):
@@ -173,9 +169,7 @@ class Game:
         return self
 
     def __exit__(self, *_):
-        if self.process.poll() is None:
-            self.process.kill()
-        self.process.wait()
+        stop(self.process)
 
     def _find_window(self):
         assert self.process.poll() is None, f"the game ended with status {self.process.returncode}"
@@ -221,12 +215,8 @@ class Game:
         return under_menu(self.window.picture(), self.scale)
 
     def shows_opening(self):
-        return count_of(box(self.canvas(), TITLE_BOX, self.scale), HEADING) > 2000 * self.scale ** 2
-
-    def shows_table(self):
-        canvas = self.canvas()
-        inside = [box(canvas, (left + 10, top + 2, 1, 1), self.scale) for left, top, _, _ in (CLOTH_BOX, SQUARES[5])]
-        return [pixel.getpixel((0, 0)) for pixel in inside] == [CLOTH, MAT]
+        title = box(self.canvas(), TITLE_BOX, self.scale)
+        return HEADING in [colour for _, colour in title.getcolors(title.width * title.height)]
 
     def can_bet(self):
         """The first instruction shows exactly while a turn is open."""
@@ -252,7 +242,7 @@ class Game:
         self.wait_for_turn()
 
     def wait_for_turn(self):
-        wait_until("an open turn", lambda: self.shows_table() and self.can_bet())
+        wait_until("an open turn", self.can_bet)
 
     def grip(self, place):
         """Where on the screen to take hold of a piece: the strip that its neighbour on the right leaves free."""
@@ -287,7 +277,7 @@ class Game:
 
 
 def settings_file(desk):
-    return pathlib.Path(desk.home) / "config" / TITLE / "Settings.conf"
+    return pathlib.Path(desk.home, "config", TITLE, "Settings.conf")
 
 
 def settings(desk):
@@ -295,7 +285,7 @@ def settings(desk):
     store = configparser.ConfigParser()
     store.optionxform = str
     store.read(settings_file(desk))
-    return dict(store["General"]) if store.has_section("General") else {}
+    return dict(store["General"])
 
 
 def write_settings(desk, **values):

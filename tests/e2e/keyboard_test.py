@@ -32,8 +32,7 @@ class Keyboard(unittest.TestCase):
             with Game(desk) as game:
                 wait_until("the keyboard", game.window.has_focus)
                 desk.key("Return")
-                game.wait_for_turn()
-                self.assertTrue(self.shows_money(game, FRESH))
+                wait_until("the table", lambda: self.shows_money(game, FRESH))
 
     def test_menus_and_questions(self):
         with Desk() as desk, Game(desk) as game:

@@ -4,10 +4,9 @@
 import unittest
 
 from desk import Desk, wait_until
-from game import (CAPTIONS, CLIENT, CLOTH, CLOTH_BOX, CUP, FRESH, INSTRUCTION, INSTRUCTIONS, MAT, MONEY_TEXTS,
-                  SQUARES, TEXTS, Game, box, carried, device, dice_frames, differs_in, difference, is_blank,
-                  pile_place, table)
-from PIL import Image, ImageChops, ImageStat
+from game import (CAPTIONS, CLOTH, CLOTH_BOX, FRESH, INSTRUCTION, INSTRUCTIONS, MAT, MONEY_TEXTS, SQUARES, TEXTS, Game,
+                  box, device, dice_frames, differs_in, difference, is_blank, pile_place, table)
+from PIL import Image
 
 
 def edges(canvas, colour, row):
@@ -16,64 +15,37 @@ def edges(canvas, colour, row):
     return [x for x in range(1, canvas.width) if line[x] != line[x - 1]]
 
 
-def unlike(canvas, picture, left, top):
-    there = canvas.crop((left, top, left + picture.width, top + picture.height))
-    return sum(ImageStat.Stat(ImageChops.difference(there, picture)).mean)
-
-
 class Table(unittest.TestCase):
-    def whole(self, scale):
+    def painted(self, scale):
         with Desk(size=(1440, 1000)) as desk, Game(desk, scale) as game:
             game.play()
-            canvas = game.canvas()
-        self.assertEqual(canvas.size, (CLIENT[0] * scale, CLIENT[1] * scale))
-        frames = dice_frames(canvas, scale)
-        self.assertNotIn(None, frames, "a die at rest on a face, from the first")
-        self.assertIsNone(difference(canvas, table(FRESH, frames, scale=scale), TEXTS, scale))
-        for place in TEXTS:
-            colours = len(box(canvas, place, scale).getcolors(100000))
-            self.assertGreater(colours, 4, f"no text at {place}")
-        left, top, width, height = INSTRUCTIONS[0]
-        for edge in ((left, top, width, 1), (left, top + height - 1, width, 1), (left, top, 2, height)):
-            self.assertTrue(is_blank(canvas, edge, INSTRUCTION, scale))
+            return game.canvas()
 
-    def test_every_pixel_at_scale_1(self):
-        self.whole(1)
+    def test_every_pixel(self):
+        for scale in 1, 2:
+            with self.subTest(scale):
+                canvas = self.painted(scale)
+                frames = dice_frames(canvas, scale)
+                self.assertNotIn(None, frames, "a die at rest on a face, from the first")
+                self.assertIsNone(difference(canvas, table(FRESH, frames, scale=scale), TEXTS, scale))
+                for place in TEXTS:
+                    self.assertGreater(len(box(canvas, place, scale).getcolors(100000)), 4, f"no text at {place}")
+                left, top, width, height = INSTRUCTIONS[0]
+                for edge in ((left, top, width, 1), (left, top + height - 1, width, 1), (left, top, 2, height)):
+                    self.assertTrue(is_blank(canvas, edge, INSTRUCTION, scale))
 
-    def test_every_pixel_at_scale_2(self):
-        self.whole(2)
-
-    def between(self, scale):
-        with Desk(size=(1440, 1000)) as desk, Game(desk, scale) as game:
-            game.play()
-            canvas = game.canvas()
-        # The squares are drawn in whole pixels: no edge has a mixed colour.
-        row = device(SQUARES[0][1] + 97, scale)
-        rim = device(CLOTH_BOX[0], scale), device(CLOTH_BOX[0] + CLOTH_BOX[2], scale)
-        mats = [device(x, scale) for left, _, width, _ in SQUARES for x in (left, left + width)]
-        self.assertEqual(edges(canvas, CLOTH, row), [rim[0], *mats, rim[1]])
-        column = canvas.rotate(90, expand=True).transpose(Image.Transpose.FLIP_TOP_BOTTOM)
-        x = device(CAPTIONS[0][0], scale) + 1
-        self.assertEqual(edges(column, CLOTH, x), [device(y, scale) for y in (152, 156, 264, 268)])
-        self.assertEqual(edges(column, MAT, x), [device(y, scale) for y in (156, 264)])
-        # A reduced picture is nowhere more like itself than at its place.
-        pieces = [("TenPound", pile_place(0, 12)), ("FivePound", pile_place(1, 11)), ("CupStanding", CUP[:2]),
-                  ("MatClub", SQUARES[3][:2])]
-        for name, place in pieces:
-            small = carried(name).size
-            picture = carried(name, 2).convert("RGB").resize([device(side, scale) for side in small],
-                                                             Image.Resampling.BOX)
-            at = [device(value, scale) for value in place]
-            here = unlike(canvas, picture, *at)
-            for step in ((1, 0), (-1, 0), (0, 1), (0, -1)):
-                if at[0] + step[0] >= 0:
-                    self.assertLess(here, unlike(canvas, picture, at[0] + step[0], at[1] + step[1]), (name, step))
-
-    def test_places_at_scale_1_25(self):
-        self.between(1.25)
-
-    def test_places_at_scale_1_5(self):
-        self.between(1.5)
+    def test_between_scales_no_edge_is_mixed_or_off(self):
+        for scale in 1.25, 1.5:
+            with self.subTest(scale):
+                canvas = self.painted(scale)
+                mats = [x for left, _, width, _ in SQUARES for x in (left, left + width)]
+                cloth = [CLOTH_BOX[0], *mats, CLOTH_BOX[0] + CLOTH_BOX[2]]
+                row = device(SQUARES[0][1] + 97, scale)
+                self.assertEqual(edges(canvas, CLOTH, row), [device(x, scale) for x in cloth])
+                column = canvas.transpose(Image.Transpose.TRANSPOSE)
+                x = device(SQUARES[0][0], scale) + 1
+                self.assertEqual(edges(column, CLOTH, x), [device(y, scale) for y in (152, 156, 264, 268)])
+                self.assertEqual(edges(column, MAT, x), [device(y, scale) for y in (156, 264)])
 
     def test_drop_at_scale_1_5_lies_at_the_nearest_pixel(self):
         with Desk(size=(1440, 1000)) as desk, Game(desk, 1.5) as game:
