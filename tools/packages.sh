@@ -6,7 +6,7 @@ BUILD=(g++ cmake ninja-build qt6-base-dev libsdl2-dev)
 DISPLAY_TOOLS=(xvfb openbox python3-xlib python3-pil)
 TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon metacity pulseaudio pulseaudio-utils
        python3-numpy python3-scipy librsvg2-bin
-       file dpkg-dev lintian desktop-file-utils appstream man-db)
+       file dpkg-dev lintian desktop-file-utils appstream man-db lintian debootstrap dpkg-dev)
 
 say() { printf '%s: %s\n' "${0##*/}" "$*"; }
 
