@@ -10,8 +10,7 @@ from game import (BUTTONS, CAPTIONS, CUP, CUP_FRAMES, FRESH, TEXTS, Game, dice_f
 
 class Ending(unittest.TestCase):
     def setUp(self):
-        self.desk = Desk()
-        self.desk.__enter__()
+        self.desk = Desk().__enter__()
         self.addCleanup(self.desk.__exit__)
 
     def assert_stored(self, counts):

@@ -26,12 +26,8 @@ class Frame:
     manager = None
 
     def setUp(self):
-        self.desk = self.enterContext(Desk(self.manager))
-
-    def enterContext(self, context):  # as newer versions of unittest have it
-        value = context.__enter__()
-        self.addCleanup(context.__exit__, None, None, None)
-        return value
+        self.desk = Desk(self.manager).__enter__()
+        self.addCleanup(self.desk.__exit__)
 
     def wait_for_exact(self, game):
         """The table stands whole and alone below a menu bar, in a window that holds nothing else."""
@@ -73,11 +69,9 @@ class Frame:
             game.play()
             self.wait_for_exact(game)
             game.window.window.change_attributes(event_mask=X.StructureNotifyMask)
-            exact = game.window.rect()[2:]
             left, top, width, height = game.window.rect()
             if self.manager:
-                middle = left + width // 2, top + height // 2
-                self.desk.move(*middle)
+                self.desk.move(left + width // 2, top + height // 2)
                 arrow = self.desk.pointer_shape()
                 border = left + width // 2, top + height + 1
                 self.desk.move(*border)
@@ -90,7 +84,7 @@ class Frame:
                 wait_until("the foreign size", lambda: (width + 90, height + 94) in self.sizes(game))
             self.desk.move(1, 1)
             self.wait_for_peace(game)
-            self.assertEqual(game.window.rect()[2:], exact)
+            self.assertEqual(game.window.rect()[2:], (width, height))
             self.wait_for_exact(game)
 
     def test_place_is_kept_without_creeping(self):
@@ -101,7 +95,7 @@ class Frame:
                     game.window.window.configure(x=173, y=131)
                     wait_until("the move", lambda: abs(game.window.rect()[0] - 173) < 20)
                 else:
-                    wait_until("the same place", lambda: game.window.rect() == place, patience=5)
+                    wait_until("the same place", lambda: game.window.rect() == place)
                 place = game.window.rect()
                 self.assertEqual(game.close(), 0)
             seen.append((settings(self.desk)["MainLeft"], settings(self.desk)["MainTop"]))
@@ -110,22 +104,29 @@ class Frame:
 
 
 class Managed(Frame):
-    def ask_state(self, game, add):
+    def maximise(self, game, add=True):
         atom = self.desk.display.intern_atom
         game.window.ask_manager("_NET_WM_STATE", add, atom("_NET_WM_STATE_MAXIMIZED_VERT"),
                                 atom("_NET_WM_STATE_MAXIMIZED_HORZ"), 1)
 
-    def assert_maximised(self, game, origin):
+    def minimise_and_bring_back(self, game):
+        game.window.ask_manager("WM_CHANGE_STATE", 3)
+        wait_until("the window to go", lambda: not game.window.is_shown())
+        game.window.ask_manager("_NET_ACTIVE_WINDOW", 2)
+        wait_until("the window to come back", game.window.is_shown)
+
+    def wait_for_maximised(self, game, origin, menu_height):
         """The table stands at the offset of the start; around it there is its colour alone."""
+
         def look():
             picture = game.window.picture()
             if picture.width < 1200:
                 return False
-            left, top = origin[0], origin[1] + self.menu_height
+            left, top = origin[0], origin[1] + menu_height
             place = left, top, left + CLIENT[0], top + CLIENT[1]
             inside = picture.crop(place)
             picture.paste(TABLE, place)
-            around = picture.crop((0, self.menu_height, picture.width, picture.height))
+            around = picture.crop((0, menu_height, picture.width, picture.height))
             return (around.getcolors(1) and None not in dice_frames(inside)
                     and difference(inside, table(FRESH, dice_frames(inside)), TEXTS) is None)
 
@@ -136,29 +137,19 @@ class Managed(Frame):
         write_settings(self.desk, MainLeft=origin[0] * 15, MainTop=origin[1] * 15)
         with Game(self.desk) as game:
             game.play()
+            self.wait_for_exact(game)
             normal = game.window.rect()
-            self.menu_height = normal[3] - CLIENT[1]
-            self.wait_for_exact(game)
-
-            self.ask_state(game, True)
-            self.assert_maximised(game, origin)
-            self.ask_state(game, False)
-            wait_until("the place before", lambda: game.window.rect() == normal)
-            self.wait_for_exact(game)
-
-            for maximise_first in (False, True):
-                if maximise_first:
-                    self.ask_state(game, True)
-                    self.assert_maximised(game, origin)
-                game.window.ask_manager("WM_CHANGE_STATE", 3)
-                wait_until("the window to go", lambda: not game.window.is_shown())
-                game.window.ask_manager("_NET_ACTIVE_WINDOW", 2)
-                wait_until("the window to come back", game.window.is_shown)
-                if maximise_first:
-                    self.assert_maximised(game, origin)
-                else:
-                    wait_until("the place before", lambda: game.window.rect() == normal)
-                    self.wait_for_exact(game)
+            menu_height = normal[3] - CLIENT[1]
+            self.maximise(game)
+            self.wait_for_maximised(game, origin, menu_height)
+            for way_back in (lambda: self.maximise(game, False), lambda: self.minimise_and_bring_back(game)):
+                way_back()
+                wait_until("the place before", lambda: game.window.rect() == normal)
+                self.wait_for_exact(game)
+            self.maximise(game)
+            self.wait_for_maximised(game, origin, menu_height)
+            self.minimise_and_bring_back(game)
+            self.wait_for_maximised(game, origin, menu_height)
             # Ended while maximised, the run leaves the stored place alone.
             self.assertEqual(game.close(), 0)
         stored = settings(self.desk)

@@ -1,0 +1,124 @@
+#include "tests/qt/desk.h"
+
+#include <QBackingStore>
+#include <QMenuBar>
+#include <QSettings>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+
+#include "tests/qt/sheet.h"
+
+namespace on_screen {
+
+using desktop::qt::FormView;
+
+void Desk::RunEventsUntil(double moment) {
+  ++rests;
+  if (pace == Pace::Fast) skipped_ += std::max(0.0, moment - Clock() - 0.001);
+  constexpr double kHour = 3600;
+  QtDesktop::RunEventsUntil(pace == Pace::Frozen ? moment + kHour : moment);
+  inRest();
+}
+
+float Desk::Random() {
+  if (draws.empty()) return chance_.Next();
+  const float draw = draws.front();
+  draws.pop_front();
+  return draw;
+}
+
+void WhenAsked(const std::function<void(QMessageBox&)>& look) {
+  auto* poll = new QTimer(qApp);
+  QObject::connect(poll, &QTimer::timeout, poll, [poll, look] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box || !box->isVisible()) return;
+    poll->stop();
+    poll->deleteLater();
+    look(*box);
+  });
+  poll->start(1);
+}
+
+void Answer(QMessageBox& box, QMessageBox::StandardButton answer) {
+  QTest::mouseClick(box.button(answer), Qt::LeftButton);
+}
+
+void OnDesk::SetUp() {
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home_.path());
+  thistle::Main(frame);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.window()));
+}
+
+void OnDesk::StartGame() {
+  Key(Qt::Key_Return);
+  ASSERT_TRUE(table.Loaded);
+}
+
+FormView* OnDesk::ViewOf(const desktop::Form& form) {
+  for (QObject* child : desktop.window().area().children())
+    if (auto* view = dynamic_cast<FormView*>(child); view && &view->form() == &form && !view->isHidden()) return view;
+  return nullptr;
+}
+
+QWidget* OnDesk::Control(const desktop::Form& form, const QString& name) {
+  for (QWidget* child : ViewOf(form)->findChildren<QWidget*>())
+    if (child->accessibleName() == name) return child;
+  return nullptr;
+}
+
+QImage OnDesk::Shown(QWidget& widget, QRect part) {
+  if (part.isNull()) part = widget.rect();
+  QCoreApplication::sendPostedEvents();
+  QWidget& window = *widget.window();
+  // Taken from behind the window: the platform's own grab cuts off what a scaled screen adds.
+  const auto* all = dynamic_cast<const QImage*>(window.backingStore()->paintDevice());
+  if (!all) return {};
+  QImage shown = all->copy(Device(QRect(widget.mapTo(&window, part.topLeft()), part.size())) & all->rect());
+  shown.setDevicePixelRatio(1);
+  return shown.convertedTo(QImage::Format_RGB32);
+}
+
+testing::AssertionResult OnDesk::IsFresh(const desktop::Form& form) {
+  QWidget& view = *ViewOf(form);
+  const QImage before = Shown(view);
+  view.window()->repaint();
+  return Same(before, Shown(view));
+}
+
+QPoint OnDesk::InWindow(const desktop::Form& form, QPoint at) {
+  FormView* view = ViewOf(form);
+  return view->mapTo(view->window(), at + QPoint(form.Border, form.Border));
+}
+
+void OnDesk::Press(const desktop::Form& form, QPoint at, Qt::MouseButton button) {
+  QTest::mousePress(desktop.window().windowHandle(), button, {}, InWindow(form, at));
+}
+
+void OnDesk::Move(const desktop::Form& form, QPoint to) {
+  QTest::mouseMove(desktop.window().windowHandle(), InWindow(form, to));
+}
+
+void OnDesk::Release(const desktop::Form& form, QPoint at, Qt::MouseButton button) {
+  QTest::mouseRelease(desktop.window().windowHandle(), button, {}, InWindow(form, at));
+}
+
+void OnDesk::Click(const desktop::Form& form, QPoint at) {
+  Press(form, at);
+  Release(form, at);
+}
+
+void OnDesk::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(desktop.window().windowHandle(), key, modifiers);
+}
+
+void OnDesk::Menu(const QString& text) {
+  for (QAction* action : desktop.window().findChildren<QAction*>())
+    if (QString(action->text()).remove('&') == text && !action->menu()) {
+      action->trigger();
+      return;
+    }
+  FAIL() << text.toStdString();
+}
+
+}  // namespace on_screen

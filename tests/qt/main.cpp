@@ -1,0 +1,19 @@
+// Runs the tests of the real desktop.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QTemporaryDir>
+
+/// Nobody can listen on the offscreen platform. Here a screen reader always does.
+bool QAccessible::isActive() { return true; }
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  // Not the user's screen, settings or speakers.
+  const QTemporaryDir home;
+  for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) qputenv(place, home.path().toUtf8());
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  return RUN_ALL_TESTS();
+}
