@@ -159,12 +159,10 @@ void FormView::PaintBorder(QPainter& painter) const {
   constexpr QRgb kLower[] = {0x696969, 0xA0A0A0, 0xF0F0F0};
   for (int line = 0; line < form_.Border; ++line) {
     const QRect edge = rect().adjusted(line, line, -line, -line);
-    painter.setPen(QColor(kUpper[line]));
-    painter.drawLine(edge.topLeft(), edge.topRight());
-    painter.drawLine(edge.topLeft(), edge.bottomLeft());
-    painter.setPen(QColor(kLower[line]));
-    painter.drawLine(edge.bottomLeft(), edge.bottomRight());
-    painter.drawLine(edge.topRight(), edge.bottomRight());
+    painter.fillRect(edge.left(), edge.top(), edge.width(), 1, QColor(kUpper[line]));
+    painter.fillRect(edge.left(), edge.top(), 1, edge.height(), QColor(kUpper[line]));
+    painter.fillRect(edge.left(), edge.bottom(), edge.width(), 1, QColor(kLower[line]));
+    painter.fillRect(edge.right(), edge.top(), 1, edge.height(), QColor(kLower[line]));
   }
 }
 
@@ -252,8 +250,13 @@ bool FormView::focusNextPrevChild(bool next) {
 }
 
 void FormView::TakeKeyboard() {
-  QWidget* last = focusWidget();
-  (last && last->isVisibleTo(this) ? last : this)->setFocus();
+  if (QWidget* last = focusWidget(); last && last->isVisibleTo(this)) {
+    last->setFocus();
+    return;
+  }
+  setFocus();
+  for (const Element* element : form_.Controls())
+    if (element->Default && Reacts(*element)) SetFocus(*element);
 }
 
 void FormView::SetFocus(const Element& control) {

@@ -22,7 +22,7 @@ class FormView : public QWidget {
 
   /// Brings the screen up to what the records say now.
   void Follow();
-  /// Gives the keyboard to this form: to the control that had it last, or to the first.
+  /// Gives the keyboard to this form: to the control that had it last, or else to its default one.
   void TakeKeyboard();
   void SetFocus(const Element& control);
 

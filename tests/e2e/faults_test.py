@@ -25,6 +25,15 @@ class Faults(unittest.TestCase):
         wait_until("the dice to be thrown", lambda: dice_squares(game.canvas()) is None)
         game.wait_for_turn()
 
+    def launch(self, desk, preparation):
+        """Has the game started by a shell that does something first."""
+        program = os.environ["GAME"]
+        self.addCleanup(os.environ.update, GAME=program)
+        launcher = pathlib.Path(desk.home) / "launch"
+        launcher.write_text(f"#!/bin/sh\n{preparation}\nexec '{program}'\n")
+        launcher.chmod(0o755)
+        os.environ["GAME"] = str(launcher)
+
     def test_killed_while_it_ends_it_leaves_the_old_values_or_the_new_ones(self):
         seed = random.randrange(1 << 32)
         chance = random.Random(seed)
@@ -55,12 +64,7 @@ class Faults(unittest.TestCase):
     def test_without_a_sound_device_it_plays_on_and_is_quiet(self):
         with Desk() as desk:
             said = pathlib.Path(desk.home) / "said"
-            program = os.environ["GAME"]
-            self.addCleanup(os.environ.update, GAME=program)
-            launcher = pathlib.Path(desk.home) / "launch"
-            launcher.write_text(f"#!/bin/sh\nexec '{program}' 2>'{said}'\n")
-            launcher.chmod(0o755)
-            os.environ["GAME"] = str(launcher)
+            self.launch(desk, f"exec 2>'{said}'")
             with Game(desk, SDL_AUDIODRIVER="alsa", ALSA_CONFIG_PATH="/nowhere") as game:
                 game.play()
                 self.throw(game)
@@ -76,21 +80,29 @@ class Faults(unittest.TestCase):
         def a_folder_for_the_file(desk):
             settings_file(desk).mkdir(parents=True)
 
-        def a_full_disk(desk):
-            settings_file(desk).parent.mkdir(parents=True)
-            settings_file(desk).symlink_to("/dev/full")
-
         def rubbish(desk):
             settings_file(desk).parent.mkdir(parents=True)
             settings_file(desk).write_bytes(bytes(range(256)) * 40)
 
-        for spoil in (a_file_for_the_folder, a_folder_for_the_file, a_full_disk, rubbish):
+        for spoil in (a_file_for_the_folder, a_folder_for_the_file, rubbish):
             with self.subTest(spoil.__name__), Desk() as desk:
                 spoil(desk)
                 with Game(desk) as game:
                     game.play()
                     self.throw(game)
                     self.assertEqual(game.close(), 0)
+
+    def test_on_a_full_disk_it_plays_and_ends_and_keeps_the_old_values(self):
+        with Desk() as desk:
+            write_settings(desk, **OLD)
+            self.launch(desk, "trap '' XFSZ; ulimit -f 0")  # no file can take another byte
+            with Game(desk) as game:
+                game.choose("g", "n")
+                game.answer("n")
+                game.wait_for_turn()
+                self.throw(game)
+                self.assertEqual(game.close(), 0)
+            self.assertEqual(settings(desk), OLD)
 
     def test_it_ends_by_a_signal_like_any_program(self):
         with Desk() as desk:

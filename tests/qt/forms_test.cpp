@@ -154,7 +154,7 @@ TEST_F(Forms, Support) {
     Click(frame.Support, link.geometry().center());
   }
   EXPECT_EQ(outside.opened, (QStringList{"mailto:" + addresses[0], addresses[1]}));
-  EXPECT_TRUE(frame.Support.Loaded);
+  EXPECT_TRUE(frame.Support.Loaded && Focus() == "Return");
 }
 
 class Instructions : public Forms {

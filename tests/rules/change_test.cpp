@@ -7,29 +7,17 @@
 namespace {
 
 using simulated::AtTable;
-using simulated::kGap;
 using simulated::Ledger;
 using simulated::Lines;
 using simulated::OnSquare;
 using Counts = std::array<std::int64_t, 3>;
-
-TEST(Change, OnOfferByTheCounts) {
-  const std::pair<Counts, bool> rows[] = {
-      {{0, 0, 1}, false},   {{0, 0, 50}, false},  {{0, 1, 0}, true},    {{0, 1, 19}, true},  {{0, 1, 20}, false},
-      {{0, 1, 25}, false},  {{0, 30, 19}, true},  {{1, 0, 3}, true},    {{1, 19, 90}, true}, {{1, 20, 19}, true},
-      {{1, 20, 20}, false}, {{9, 21, 24}, false}, {{13, 12, 10}, true}, {{40, 0, 0}, true},
-  };
-  for (const auto& [counts, shown] : rows) {
-    AtTable play(counts);
-    EXPECT_EQ(play.table().Command1.Visible, shown) << counts[0] << ", " << counts[1] << ", " << counts[2];
-  }
-}
 
 TEST(Change, BreaksDownFromTheTopClickByClick) {
   struct Row {
     Counts after;
     double seconds;
   };
+  // The button is on offer before each click, and gone after the last.
   const std::vector<std::vector<Row>> games{
       {{{13, 12, 10}, 0},
        {{12, 13, 15}, 2.25},
@@ -40,7 +28,10 @@ TEST(Change, BreaksDownFromTheTopClickByClick) {
       {{{1, 0, 3}, 0}, {{0, 1, 8}, 2.25}, {{0, 0, 13}, 1.5}},
       {{{2, 19, 19}, 0}, {{1, 20, 24}, 2.25}},
       {{{1, 19, 20}, 0}, {{0, 21, 20}, 0.75}},
+      {{{1, 20, 19}, 0}, {{1, 19, 24}, 1.5}, {{0, 21, 24}, 0.75}},
       {{{0, 2, 18}, 0}, {{0, 1, 23}, 1.5}},
+      {{{0, 0, 50}, 0}},
+      {{{0, 1, 20}, 0}},
   };
   for (const auto& game : games) {
     AtTable play(game[0].after);
@@ -58,7 +49,6 @@ TEST(Change, BreaksDownFromTheTopClickByClick) {
 
 TEST(Change, PieceByPiece) {
   AtTable play({1, 0, 3});
-  const Ledger ledger(play);
   simulated::Recorder recorder(play);
   recorder.WatchPieces();
   recorder.WatchTotal();
@@ -96,53 +86,27 @@ TEST(Change, SecondClickRunsInsideTheFirst) {
   EXPECT_EQ(play.money().MoneyCount[0], 0);
 }
 
-TEST(Change, PressesOnPiecesAndCupWaitForItsEnd) {
+TEST(Change, PiecesAndCupWaitForItsEnd) {
   AtTable play({1, 1, 3});
   const Ledger ledger(play);
-  ASSERT_TRUE(play.table().CupStanding.Enabled);
+  // The left button is down on the cup before the exchange starts from the keyboard.
+  play.desktop.Press(45, 80);
+  play.desktop.focus = &play.table().Command1;
+  play.desktop.InRest(1, [&] { play.desktop.Release(45, 80); });
   int tried = 0;
-  for (int rest = 1; rest <= 17; rest += 2)
+  for (int rest = 3; rest <= 17; rest += 2)
     play.desktop.InRest(rest, [&] {
       ++tried;
       ASSERT_TRUE(play.Press(20) && play.Move(OnSquare(0)));
       EXPECT_EQ(play.desktop.InHand(), nullptr);
       ASSERT_TRUE(play.Release(OnSquare(0)) && play.Drag(41, OnSquare(3)) && play.ThrowCup());
     });
-  ASSERT_TRUE(play.ClickChange());
-  EXPECT_EQ(tried, 9);
+  ASSERT_TRUE(play.Do([&] { play.desktop.Space(); }));
+  EXPECT_EQ(tried, 8);
   EXPECT_EQ(play.desktop.drawn, 3);
   EXPECT_EQ(play.money().MoneyCount, (Counts{0, 2, 8}));
   ASSERT_TRUE(play.Drag(41, OnSquare(3)));
   EXPECT_EQ(play.table().BetValue[3], 1);
-}
-
-TEST(Change, CupPressedBeforeItIsNotThrownDuringIt) {
-  // The player holds the left button down on the cup and starts the exchange from the keyboard. A
-  // throw inside it would find the only note out of the piles and the money gone.
-  AtTable play({0, 1, 0});
-  play.desktop.questions.clear();  // the offer of this money
-  play.desktop.Press(45, 80);
-  play.desktop.focus = &play.table().Command1;
-  play.desktop.InRest(1, [&] { play.desktop.Release(45, 80); });
-  ASSERT_TRUE(play.Do([&] { play.desktop.Space(); }));
-  EXPECT_EQ(play.desktop.drawn, 3);
-  EXPECT_TRUE(play.desktop.questions.empty());
-  EXPECT_EQ(play.money().MoneyCount, (Counts{0, 0, 5}));
-}
-
-TEST(Change, ButtonGoesWithAPieceOnTheMatAndComesBack) {
-  AtTable play;
-  auto& button = play.table().Command1;
-  ASSERT_TRUE(play.Bet(0, 0) && play.Bet(2, 4));
-  EXPECT_FALSE(button.Visible);
-  ASSERT_TRUE(play.Drag(12, kGap));
-  EXPECT_FALSE(button.Visible);
-  ASSERT_TRUE(play.Drag(49, kGap));
-  EXPECT_TRUE(button.Visible);
-  ASSERT_TRUE(play.Bet(2, 4));
-  play.DealThrow(4, 0, 0);
-  ASSERT_TRUE(play.ThrowCup());
-  EXPECT_TRUE(button.Visible);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The course of a throw in time: cup, dice and sounds; and the one wait.
+// The course of a throw in time: cup, dice and sounds.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,8 +9,6 @@ namespace {
 
 using simulated::AtTable;
 using simulated::Lines;
-
-constexpr std::array kSquareOfGroup{0, 3, 4, 5, 2, 1};
 
 struct Deal {
   std::array<int, 3> groups;  ///< on which each die starts
@@ -48,99 +46,42 @@ TEST(Throw, EachDieRollsItsOwnWay) {
     AtTable play;
     const auto& table = play.table();
     DealDice(play, deal);
-    int ticks = 0;
     play.desktop.afterEvent = [&] {
       const double now = play.desktop.Clock();
       if (play.desktop.waits == 0) return;
       const int tick = now < 2.9 ? 0 : static_cast<int>(std::lround((now - 2.92) / 0.05)) + 1;
-      ticks = tick;
       for (int die = 0; die < 3; ++die) {
+        SCOPED_TRACE(testing::Message() << "die " << die << ", tick " << tick);
         const int turned = std::clamp(tick - die, 0, 4 * deal.spins[die]);
         const int frame = (4 * deal.groups[die] + (die == 1 ? 24 - turned : turned)) % 24;
-        EXPECT_EQ(table.Dice[die].Visible, turned > 0) << "die " << die << ", tick " << tick;
-        EXPECT_EQ(table.DiceFrame[die], frame) << "die " << die << ", tick " << tick;
-        EXPECT_EQ(table.DiceSquare[die], kSquareOfGroup[frame / 4]);
-        char picture[] = "Anidice00";
-        picture[7] = static_cast<char>('0' + frame / 10);
-        picture[8] = static_cast<char>('0' + frame % 10);
-        EXPECT_EQ(table.Dice[die].Picture->name, picture);
+        EXPECT_EQ(table.Dice[die].Visible, turned > 0);
+        EXPECT_EQ(table.DiceFrame[die], frame);
+        EXPECT_EQ(table.DiceSquare[die], (std::array{0, 3, 4, 5, 2, 1}[frame / 4]));
+        EXPECT_EQ(table.Dice[die].Picture->name,
+                  "Anidice" + std::string(frame < 10 ? "0" : "") + std::to_string(frame));
       }
     };
     ASSERT_TRUE(play.ThrowCup());
-    EXPECT_EQ(ticks, deal.lastTick);
     EXPECT_NEAR(play.desktop.sounds.back().time, 2.92 + 0.05 * (deal.lastTick - 1), 1e-9);
     EXPECT_EQ(play.desktop.sounds.back().what, "ROLLDICEEND");
     EXPECT_NEAR(play.desktop.Clock(), 2.92 + 0.05 * deal.lastTick, 1e-9);
-    for (int die = 0; die < 3; ++die) {
-      const int turned = die == 1 ? 6 - deal.spins[die] : deal.spins[die];
-      EXPECT_EQ(table.DiceFrame[die], 4 * ((deal.groups[die] + turned) % 6));
-    }
   }
 }
 
 TEST(Throw, DrawsAndSeeds) {
   simulated::Store store;
   simulated::Play play(store);
-  const float almostOne = std::nextafter(1.0F, 0.0F);
-  play.desktop.chance = {almostOne, 0.0F, 1.0F / 6};
-  ASSERT_TRUE(play.Start());
-  EXPECT_EQ(play.desktop.seeded, 0);
-  ASSERT_TRUE(play.Do([&] { play.desktop.Enter(); }));
-  EXPECT_EQ(play.desktop.seeded, 1);
+  play.desktop.chance = {std::nextafter(1.0F, 0.0F), 0.0F, 1.0F / 6};
+  ASSERT_TRUE(play.StartAtTable());
   EXPECT_EQ(play.desktop.drawn, 3);
   EXPECT_EQ(play.table().DiceFrame, (std::array{20, 0, 4}));
-  EXPECT_EQ(play.table().DiceSquare, (std::array{1, 0, 3}));
   for (const auto& die : play.table().Dice) EXPECT_TRUE(die.Visible);
 
   ASSERT_TRUE(play.ThrowCup() && play.Bet(2, 0) && play.ThrowCup());
-  EXPECT_EQ(play.desktop.drawn, 3 + 2 * 6);
   play.desktop.answers = {true};
   play.desktop.Menu("mnuNewGame");
   EXPECT_EQ(play.desktop.drawn, 3 + 2 * 6);
   EXPECT_EQ(play.desktop.seeded, 1);
-}
-
-TEST(Throw, NothingOnTheTableReacts) {
-  AtTable play;
-  ASSERT_TRUE(play.Bet(2, 0));
-  play.DealThrow(0, 1, 1);
-  int tried = 0;
-  for (double moment = 0.01; moment < 6.9; moment += 0.1)
-    play.desktop.At(moment, [&] {
-      if (play.desktop.waits == 0) return;
-      ++tried;
-      for (const auto [x, y] : {simulated::Spot{45, 80}, {230, 300}, {230, 330}, {230, 360}, {30, 180}, {500, 385}})
-        play.desktop.Drag(x, y, 130, 200);
-    });
-  ASSERT_TRUE(play.ThrowCup());
-  EXPECT_GT(tried, 40);
-  EXPECT_EQ(play.money().MoneyCount, (std::array<std::int64_t, 3>{13, 12, 11}));
-  EXPECT_EQ(play.desktop.drawn, 9);
-}
-
-TEST(Wait, OfNothingRunsNoEvents) {
-  AtTable play;
-  bool ran = false;
-  play.desktop.At(0, [&] { ran = true; });
-  play.table().FixedDelay(0);
-  play.table().FixedDelay(-1);
-  EXPECT_FALSE(ran);
-  EXPECT_EQ(play.desktop.Clock(), 0);
-}
-
-TEST(Wait, EndsAfterAnyWaitNestedInIt) {
-  AtTable play;
-  double innerEnd = 0;
-  play.desktop.At(0.3, [] {});
-  play.desktop.At(0.4, [&] {
-    play.table().FixedDelay(2);
-    innerEnd = play.desktop.Clock();
-  });
-  play.table().FixedDelay(1);
-  EXPECT_DOUBLE_EQ(innerEnd, 2.4);
-  EXPECT_DOUBLE_EQ(play.desktop.Clock(), 2.4);
-  play.table().FixedDelay(1);
-  EXPECT_DOUBLE_EQ(play.desktop.Clock(), 3.4);
 }
 
 }  // namespace

@@ -39,28 +39,23 @@ class Recorder {
   }
 
   void WatchCaptions() {
-    for (int s = 0; s < 6; ++s) Watch(Name("Label1", s), [this, s] { return play_.table().Label1[s].Caption; });
+    WatchEach(play_.table().Label1, [](const desktop::Element& label) { return label.Caption; });
   }
   void WatchTotal() {
     Watch("total", [this] { return play_.table().Label3[3].Caption; });
   }
   void WatchPayouts() {
-    for (int p = 0; p < 90; ++p)
-      Watch(Name("Payout", p), [&payout = play_.table().Payout[p]] {
-        return std::string(payout.Visible ? payout.Picture->name : "gone");
-      });
+    WatchEach(play_.table().Payout,
+              [](const desktop::Element& payout) { return payout.Visible ? payout.Picture->name : "gone"; });
   }
   void WatchPieces() {
-    for (int n = 0; n < 60; ++n)
-      Watch(Name("Money", n), [this, n] {
-        if (!play_.IsHome(n)) return std::string("away");
-        return std::string(play_.table().Money[n].Visible ? "in its pile" : "gone");
-      });
+    WatchEach(play_.table().Money, [this](const desktop::Element& piece) {
+      return !play_.IsHome(piece.Index) ? "away" : piece.Visible ? "in its pile" : "gone";
+    });
   }
   /// The cup frames that show, all at once where there are several.
   void WatchCup() {
-    Watch("cup", [this] {
-      auto& table = play_.table();
+    Watch("cup", [&table = play_.table()] {
       std::string shown;
       for (const auto* cup : {&table.CupStanding, &table.CupCentre, &table.CupLeft, &table.CupRight, &table.CupThrow})
         if (cup->Visible) shown += cup->Name;
@@ -69,13 +64,11 @@ class Recorder {
   }
   void WatchControls() {
     auto& table = play_.table();
-    for (const auto* element : {&table.Instruction[0], &table.Instruction[1], &table.Command1})
-      Watch(element->Index == 0 ? std::string(element->Name) : Name("Instruction", 1),
-            [element] { return std::string(element->Visible ? "shown" : "hidden"); });
-    Watch("cup", [&table] { return std::string(table.CupStanding.Enabled ? "live" : "dead"); });
-    Watch("money", [&table] { return std::string(table.Money[0].Enabled ? "live" : "dead"); });
-    Watch("pointer",
-          [&table] { return std::string(table.MousePointer == desktop::PointerShape::NoDrop ? "no drop" : "arrow"); });
+    WatchEach(table.Instruction, [](const desktop::Element& line) { return line.Visible ? "shown" : "hidden"; });
+    Watch("change", [&table] { return table.Command1.Visible ? "shown" : "hidden"; });
+    Watch("cup", [&table] { return table.CupStanding.Enabled ? "live" : "dead"; });
+    Watch("money", [&table] { return table.Money[0].Enabled ? "live" : "dead"; });
+    Watch("pointer", [&table] { return table.MousePointer == desktop::PointerShape::NoDrop ? "no drop" : "arrow"; });
   }
 
  private:
@@ -85,8 +78,11 @@ class Recorder {
     std::string last;
   };
 
-  static std::string Name(const char* array, int index) {
-    return std::string(array) + "(" + std::to_string(index) + ")";
+  template <std::size_t kCount, typename Value>
+  void WatchEach(const std::array<desktop::Element, kCount>& elements, Value value) {
+    for (const auto& element : elements)
+      Watch(std::string(element.Name) + "(" + std::to_string(element.Index) + ")",
+            [&element, value] { return std::string(value(element)); });
   }
 
   static void Note(Lines& lines, double time, const std::string& what) {
