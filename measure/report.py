@@ -13,7 +13,7 @@ import sys
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(ROOT / "tests" / "e2e"))
+sys.path.insert(0, str(ROOT / "tools" / "display"))
 sys.dont_write_bytecode = True
 
 from desk import Desk, start, stop  # noqa: E402

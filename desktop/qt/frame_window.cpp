@@ -5,6 +5,7 @@
 #include <QIcon>
 #include <QScreen>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/qt/element_painter.h"
 #include "desktop/qt/events.h"
@@ -30,6 +31,9 @@ constexpr int kTiledMargin = 64;
 
 // With a step beyond any screen a window manager has no other size to offer to a border drag.
 constexpr QSize kNoOtherSize(4000, 4000);
+
+/// A place of the frame in pixels. No window system places a window beyond 16 bits.
+int OnScreen(float twips) { return qRound(std::clamp(twips / kTwipsPerPixel, -32768.F, 32767.F)); }
 
 QIcon LoadIcon(std::string_view stem) {
   QIcon icon;
@@ -86,8 +90,7 @@ QSize FrameWindow::FixedSize() const {
 
 void FrameWindow::Appear() {
   frame_.HasPlace = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-  const QPoint place(qRound(frame_.Left / kTwipsPerPixel), qRound(frame_.Top / kTwipsPerPixel));
-  move(place);
+  move(OnScreen(frame_.Left), OnScreen(frame_.Top));
   resize(FixedSize());
   setMinimumSize(FixedSize());
   winId();

@@ -19,7 +19,7 @@ import sys
 import tempfile
 import time
 
-sys.path.append(str(pathlib.Path(__file__).parents[2] / "tests" / "e2e"))
+sys.path.append(str(pathlib.Path(__file__).parents[2] / "tools" / "display"))
 
 NAME = "thistle-and-lantern"
 PLAYER = 4242

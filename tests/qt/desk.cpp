@@ -82,7 +82,7 @@ QImage OnDesk::Shown(QWidget& widget, QRect part) {
 testing::AssertionResult OnDesk::IsFresh(const desktop::Form& form) {
   QWidget& view = *ViewOf(form);
   const QImage before = Shown(view);
-  view.window()->repaint();
+  view.repaint();
   return Same(before, Shown(view));
 }
 

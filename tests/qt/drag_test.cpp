@@ -161,7 +161,7 @@ TEST_F(Drag, WhatTakesTheMouseSendsThePieceHome) {
       {"a question",
        [&] {
          WhenAsked([&](QMessageBox& box) {
-           homeAtOnce = AllHome();
+           homeAtOnce = AllHome() && IsFresh(table);
            Answer(box, QMessageBox::No);
          });
          desktop.AskYesNo("", "");

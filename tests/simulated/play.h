@@ -5,8 +5,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "desktop/simulated/simulated_desktop.h"
 #include "shell/frmMain.h"
-#include "tests/simulated/simulated_desktop.h"
 
 namespace simulated {
 

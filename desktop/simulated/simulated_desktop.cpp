@@ -1,4 +1,4 @@
-#include "tests/simulated/simulated_desktop.h"
+#include "desktop/simulated/simulated_desktop.h"
 
 #include <algorithm>
 #include <ranges>
