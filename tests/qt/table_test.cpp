@@ -94,6 +94,10 @@ TEST_F(Table, StandsAsLaidOutAtItsLoad) {
 }
 
 TEST_F(Table, LooksAfterEveryChangeAsIfPaintedAnew) {
+  Press(table, {210, 290});
+  EXPECT_TRUE(IsFresh(table)) << "a piece from the middle of its pile lies in front";
+  Release(table, {210, 290});
+  EXPECT_TRUE(IsFresh(table));
   // A coin on each square: every throw wins some and loses some.
   for (int square = 0; square < 6; ++square) {
     Press(table, Place(table.Money[49 - square]).topLeft() + QPoint(3, 3));
