@@ -15,9 +15,13 @@ STRETCH = 5  # seconds
 
 def wake_ups_and_ticks(pid):
     """How often the process has stopped to wait, and how much processor time it has used."""
-    tasks = [*pathlib.Path(f"/proc/{pid}/task").iterdir()]
-    waits = sum(int(line.split()[1]) for task in tasks for line in (task / "status").read_text().splitlines()
-                if line.startswith("voluntary_ctxt_switches"))
+    waits = 0
+    for status in pathlib.Path(f"/proc/{pid}/task").glob("*/status"):
+        try:
+            lines = status.read_text().splitlines()
+        except OSError:
+            continue  # a thread that has just ended
+        waits += sum(int(line.split()[1]) for line in lines if line.startswith("voluntary_ctxt_switches"))
     fields = pathlib.Path(f"/proc/{pid}/stat").read_text().rpartition(")")[2].split()
     return waits, int(fields[11]) + int(fields[12])
 

@@ -22,6 +22,7 @@ class Endurance : public AtTable {
   void PlayFor(double hours) {
     const double end = desktop.Clock() + 3600 * hours;
     for (int turn = 0; desktop.Clock() < end; ++turn) {
+      desktop.sounds.clear();
       if (turn % 8 == 0) Menu("About");  // and behind the table again at the next click
       const int square = turn % 6;
       frame.module1.MoneyCount = {13, 12, 10};  // luck must not end the sitting
@@ -41,8 +42,8 @@ TEST_F(Endurance, MemoryStaysFlat) {
   PlayFor(Hours() / 4);
   const std::size_t before = BytesInUse();
   PlayFor(Hours());
-  // Caches of the toolkit come and go; a leak of a kilobyte a turn would pass this within minutes.
-  EXPECT_LT(BytesInUse(), before + 200'000);
+  // Room for what the toolkit caches; a hundred bytes a turn are more within the hours of a sitting.
+  EXPECT_LT(BytesInUse(), before + 50'000);
 }
 
 }  // namespace
