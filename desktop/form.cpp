@@ -1,7 +1,6 @@
 #include "desktop/form.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace desktop {
 
@@ -27,9 +26,10 @@ void Form::BringToFront(const Element& element) {
 }
 
 Element* Form::ElementAt(float x, float y) const {
-  for (Element* element : graphics_ | std::views::reverse)
-    if (TakesMouse(*element) && element->Contains(x, y)) return element;
-  return nullptr;
+  const auto frontmost = std::find_if(graphics_.rbegin(), graphics_.rend(), [=](const Element* element) {
+    return TakesMouse(*element) && element->Contains(x, y);
+  });
+  return frontmost == graphics_.rend() ? nullptr : *frontmost;
 }
 
 }  // namespace desktop

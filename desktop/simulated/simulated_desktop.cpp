@@ -1,7 +1,6 @@
 #include "desktop/simulated/simulated_desktop.h"
 
 #include <algorithm>
-#include <ranges>
 #include <stdexcept>
 
 namespace simulated {
@@ -9,9 +8,11 @@ namespace simulated {
 namespace {
 
 desktop::Element* ControlAt(const desktop::Form& form, float x, float y) {
-  for (desktop::Element* control : form.Controls() | std::views::reverse)
-    if (control->Visible && control->Enabled && control->Contains(x, y)) return control;
-  return nullptr;
+  const auto& controls = form.Controls();
+  const auto frontmost = std::find_if(controls.rbegin(), controls.rend(), [=](const desktop::Element* control) {
+    return control->Visible && control->Enabled && control->Contains(x, y);
+  });
+  return frontmost == controls.rend() ? nullptr : *frontmost;
 }
 
 std::string Address(std::string_view application, std::string_view section, std::string_view key) {
@@ -21,12 +22,12 @@ std::string Address(std::string_view application, std::string_view section, std:
 }  // namespace
 
 desktop::Form* Desktop::FormAt(float x, float y) const {
-  for (desktop::Form* form : frame_->Children() | std::views::reverse) {
-    const bool inside = x >= form->Left && x < form->Left + static_cast<float>(form->Width) && y >= form->Top &&
-                        y < form->Top + static_cast<float>(form->Height);
-    if (inside) return form;
-  }
-  return nullptr;
+  const auto& children = frame_->Children();
+  const auto frontmost = std::find_if(children.rbegin(), children.rend(), [=](const desktop::Form* form) {
+    return x >= form->Left && x < form->Left + static_cast<float>(form->Width) && y >= form->Top &&
+           y < form->Top + static_cast<float>(form->Height);
+  });
+  return frontmost == children.rend() ? nullptr : *frontmost;
 }
 
 void Desktop::Press(float x, float y, int button) {
