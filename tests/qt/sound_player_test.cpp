@@ -115,7 +115,7 @@ class Sound : public testing::Test {
     const auto deadline = std::chrono::steady_clock::now() + 60s;
     while (!heard()) {
       ASSERT_LT(std::chrono::steady_clock::now(), deadline) << "never heard";
-      std::this_thread::sleep_for(2ms);
+      std::this_thread::sleep_for(10ms);
     }
   }
   void Listen(double seconds) const {
