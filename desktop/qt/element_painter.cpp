@@ -48,17 +48,21 @@ void PaintText(QPainter& painter, const Element& element, double ratio) {
   painter.restore();
 }
 
-/// A groove, lit from above and from the left.
+void Outline(QPainter& painter, const QRect& box, int line, const QColor& colour) {
+  painter.fillRect(box.left(), box.top(), box.width(), line, colour);
+  painter.fillRect(box.left(), box.top(), line, box.height(), colour);
+  painter.fillRect(box.left(), box.bottom() + 1 - line, box.width(), line, colour);
+  painter.fillRect(box.right() + 1 - line, box.top(), line, box.height(), colour);
+}
+
+/// A panel behind a groove that is lit from above and from the left.
 void PaintPanel(QPainter& painter, const Element& element, double ratio) {
   const QRect box = DeviceBox(element, ratio);
   const int line = qMax(1, qRound(ratio));
   const QColor ground = ToQt(element.BackColor.value_or(Colour{0xFFFFFF}));
-  painter.fillRect(box, ground.darker(160));
-  painter.fillRect(box.adjusted(line, line, 0, 0), Qt::white);
-  painter.fillRect(box.adjusted(line, line, -line, -line), ground.darker(160));
-  painter.fillRect(box.adjusted(2 * line, 2 * line, -line, -line), ground);
-  painter.fillRect(QRect(box.left() + line, box.top() + line, box.width() - 3 * line, line), Qt::white);
-  painter.fillRect(QRect(box.left() + line, box.top() + line, line, box.height() - 3 * line), Qt::white);
+  painter.fillRect(box, ground);
+  Outline(painter, box.adjusted(line, line, 0, 0), line, Qt::white);
+  Outline(painter, box.adjusted(0, 0, -line, -line), line, ground.darker(160));
 }
 
 }  // namespace

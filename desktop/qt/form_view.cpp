@@ -11,7 +11,6 @@
 
 #include "desktop/qt/element_painter.h"
 #include "desktop/qt/events.h"
-#include "desktop/qt/light_palette.h"
 
 namespace desktop::qt {
 
@@ -38,7 +37,6 @@ bool Reacts(const Element& control) { return control.Visible && control.Enabled;
 FormView::FormView(Form& form, Events& events, PictureStore& pictures, QWidget* parent)
     : QWidget(parent), form_(form), events_(events), pictures_(pictures) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setPalette(LightPalette());
   DecodePictures();
   FollowElements();
 }
