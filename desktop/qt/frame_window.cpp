@@ -135,6 +135,8 @@ void FrameWindow::NoteState() {
 
 void FrameWindow::NotePlace() {
   if (!isVisible() || isMaximized() || isMinimized() || isFullScreen()) return;
+  // A tiling window manager's place is not one that the player has chosen.
+  if (windowHandle()->size() != FixedSize()) return;
   const QPoint corner = frameGeometry().topLeft();
   frame_.Left = static_cast<float>(corner.x() * kTwipsPerPixel);
   frame_.Top = static_cast<float>(corner.y() * kTwipsPerPixel);
