@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/qt/element_painter.h"
 #include "desktop/qt/events.h"
@@ -97,6 +98,11 @@ void FrameWindow::Appear() {
   windowHandle()->setBaseSize(FixedSize());
   windowHandle()->setSizeIncrement(kNoOtherSize);
   show();
+}
+
+void FrameWindow::paintEvent(QPaintEvent*) {
+  // The picture goes to the screen when all that stands in the window has been painted too.
+  if (whenSeen_) QTimer::singleShot(0, this, std::exchange(whenSeen_, nullptr));
 }
 
 void FrameWindow::resizeEvent(QResizeEvent*) {

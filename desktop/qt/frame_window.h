@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QTimer>
 #include <QWidget>
+#include <functional>
 
 #include "desktop/frame.h"
 
@@ -19,10 +20,13 @@ class FrameWindow : public QWidget {
 
   /// Appears at the frame's place and size.
   void Appear();
+  /// Runs `task` once the window's first picture is on the screen.
+  void WhenSeen(std::function<void()> task) { whenSeen_ = std::move(task); }
   /// The widget in which the forms stand.
   QWidget& area() { return *area_; }
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -46,6 +50,7 @@ class FrameWindow : public QWidget {
   QTimer snapBack_;
   bool snapping_ = false;  ///< a resize of its own has been asked for and not yet looked at
   int refusals_ = 0;
+  std::function<void()> whenSeen_;
 };
 
 }  // namespace desktop::qt

@@ -29,6 +29,10 @@ void QtDesktop::ShowFrame(Frame& frame) {
   frame_ = &frame;
   pointer_.emplace(frame);
   window_ = std::make_unique<FrameWindow>(frame, static_cast<Events&>(*this));
+  window_->WhenSeen([this] {
+    seen_ = true;
+    if (opening_) sound_.Play(*opening_);
+  });
   window_->Appear();
 }
 
@@ -107,6 +111,14 @@ std::string QtDesktop::ReadSetting(std::string_view application, std::string_vie
 void QtDesktop::SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                             std::string_view text) {
   settings_.Save(application, section, key, text);
+}
+
+void QtDesktop::PlayWave(const WaveImage& image) {
+  // To load the sound library beside it would hold up the first picture.
+  if (seen_)
+    sound_.Play(image);
+  else
+    opening_ = image;
 }
 
 Area QtDesktop::WorkArea() const {

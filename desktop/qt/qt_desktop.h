@@ -38,7 +38,7 @@ class QtDesktop : public Desktop, private Events {
                           std::string_view fallback) override;
   void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                    std::string_view text) override;
-  void PlayWave(const WaveImage& image) override { sound_.Play(image); }
+  void PlayWave(const WaveImage& image) override;
   Area WorkArea() const override;
   void OpenMail(std::string_view address) override;
   void OpenPage(std::string_view address) override;
@@ -64,6 +64,8 @@ class QtDesktop : public Desktop, private Events {
   SettingsStore settings_;
   PictureStore pictures_;
   SoundPlayer sound_;
+  bool seen_ = false;                 ///< the window's first picture is on the screen
+  std::optional<WaveImage> opening_;  ///< to be played then
   std::unique_ptr<FrameWindow> window_;
   std::map<Form*, FormView*> views_;
   std::vector<Form*> order_;

@@ -44,7 +44,7 @@ class Voice {
 /// own thread. A device is held only while there is something to hear and a little longer.
 class SoundPlayer {
  public:
-  SoundPlayer() = default;
+  SoundPlayer();
   /// Waits for what the device is doing.
   ~SoundPlayer();
   SoundPlayer(const SoundPlayer&) = delete;
@@ -75,7 +75,6 @@ class SoundPlayer {
   std::condition_variable changed_;
   std::optional<Order> order_;
   bool ending_ = false;
-  std::thread thread_;
 
   // The player's thread alone.
   Sdl sdl_;
@@ -88,6 +87,8 @@ class SoundPlayer {
   std::unique_ptr<Voice> playing_;
   std::unique_ptr<Voice> fading_;
   std::vector<float> mix_;
+
+  std::thread thread_;  ///< uses all of the above from its first moment
 };
 
 }  // namespace desktop::qt
