@@ -4,76 +4,50 @@
 import unittest
 
 from desk import Desk, wait_until
-from game import (BUTTONS, FRESH, GET_CHANGE, TEXTS, Game, dice_frames, differs_in, difference, table)
+from game import BUTTONS, FRESH, GET_CHANGE, Game, differs_in
+from seen import opens_with
 
 
 class Keyboard(unittest.TestCase):
-    def shows_money(self, game, counts):
-        canvas = game.canvas()
-        return difference(canvas, table(counts, dice_frames(canvas)), TEXTS) is None
+    def setUp(self):
+        self.desk = self.enterContext(Desk())
+        self.game = self.enterContext(Game(self.desk))
+        self.desk.move(1, 1)
+        wait_until("the keyboard", self.game.window.has_focus)
 
-    def test_opening_form(self):
-        with Desk() as desk:
-            with Game(desk) as game:
-                desk.move(1, 1)
-                wait_until("the keyboard", game.window.has_focus)
-                # The mark of the focus wanders, and nothing else changes.
-                order = ["Play Game", "Instructions", "Exit", "Options", "Play Game"]
-                tour = list(zip(order, order[1:], ["Tab"] * 4)) + [("Play Game", "Options", "back")]
-                for before, after, key in tour:
-                    canvas = game.canvas()
-                    desk.key(*(["Tab"] if key == "Tab" else ["Shift_L", "Tab"]))
-                    wait_until(f"the focus on {after}", lambda: differs_in(game.canvas(), canvas, BUTTONS[after]))
-                    changed = {name for name, place in BUTTONS.items() if differs_in(game.canvas(), canvas, place)}
-                    self.assertEqual(changed, {before, after})
-                desk.key("Shift_L", "Tab")
-                desk.key("space")
-                self.assertEqual(game.ended(), 0, "Exit, without a question")
-            with Game(desk) as game:
-                wait_until("the keyboard", game.window.has_focus)
-                desk.key("Return")
-                wait_until("the table", lambda: self.shows_money(game, FRESH))
+    def test_tab_goes_round_and_a_key_presses(self):
+        order = ["Play Game", "Instructions", "Exit", "Options", "Play Game", "Options", "Play Game"]
+        keys = [["Tab"]] * 4 + [["Shift_L", "Tab"], ["Tab"]]
+        for before, after, pressed in zip(order, order[1:], keys):
+            canvas = self.game.canvas()
+            self.desk.key(*pressed)
+            wait_until(f"the focus on {after}", lambda: differs_in(self.game.canvas(), canvas, BUTTONS[after]))
+            changed = {name for name, place in BUTTONS.items() if differs_in(self.game.canvas(), canvas, place)}
+            self.assertEqual(changed, {before, after})
+        self.desk.key("Return")
+        wait_until("the table", lambda: opens_with(self.game.canvas(), FRESH))
+        canvas = self.game.canvas()
+        self.desk.key("Tab")
+        wait_until("the focus", lambda: differs_in(self.game.canvas(), canvas, GET_CHANGE))
+        self.desk.key("space")
+        wait_until("the exchange", lambda: opens_with(self.game.canvas(), [12, 13, 15]))
 
     def test_menus_and_questions(self):
-        with Desk() as desk, Game(desk) as game:
-            game.play()
-            game.bet(0, 12, 3)
-            staked = game.canvas()
-            desk.move(1, 1)
-
-            game.choose("g", "e")
-            box = game.question()
-            asked = box.picture()
-            desk.key("Escape")
-            box.close()
-            desk.key("Tab")
-            wait_until("the focus to move", lambda: box.is_shown() and box.picture().tobytes() != asked.tobytes())
-            game.answer("n")
-            wait_until("the table as it was", lambda: game.canvas().tobytes() == staked.tobytes())
-
-            game.choose("g", "n")
-            game.answer("n")
-            wait_until("the table as it was", lambda: game.canvas().tobytes() == staked.tobytes())
-            game.choose("g", "n")
-            game.answer("y")
-            wait_until("a new game", lambda: self.shows_money(game, FRESH))
-
-            game.choose("g", "e")
-            game.question()
-            desk.key("Return")
-            self.assertEqual(game.ended(), 0, "Yes is what Enter answers")
-
-    def test_get_change(self):
-        with Desk() as desk, Game(desk) as game:
-            game.play()
-            wait_until("the keyboard", game.window.has_focus)
-            canvas = game.canvas()
-            desk.key("Tab")
-            wait_until("the focus", lambda: differs_in(game.canvas(), canvas, GET_CHANGE))
-            desk.key("space")
-            wait_until("the exchange", lambda: self.shows_money(game, [12, 13, 15]))
-            desk.key("space")
-            wait_until("the next", lambda: self.shows_money(game, [11, 14, 20]))
+        self.game.play()
+        self.game.bet(0, 12, 3)
+        self.desk.move(1, 1)
+        staked = self.game.canvas()
+        for entry in ("n", "e"):
+            self.game.choose("g", entry)
+            self.game.answer("n")
+            wait_until("the table as it was", lambda: self.game.canvas().tobytes() == staked.tobytes())
+        self.game.choose("g", "n")
+        self.game.answer("y")
+        wait_until("a new game", lambda: opens_with(self.game.canvas(), FRESH))
+        self.game.choose("g", "e")
+        self.game.question()
+        self.desk.key("Return")
+        self.assertEqual(self.game.ended(), 0, "Yes is what Enter answers")
 
 
 if __name__ == "__main__":

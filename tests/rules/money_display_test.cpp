@@ -80,18 +80,4 @@ TEST(Layers, PieceInHandThenPilesThenTheLastLetGo) {
   }
 }
 
-TEST(Layers, PayoutsComeToLieOverThePieces) {
-  AtTable play;
-  auto& table = play.table();
-  ASSERT_TRUE(play.Bet(0, 3) && play.Bet(2, 3));
-  play.DealThrow(3, 0, 0);
-  play.desktop.InRest(22, [&] {
-    EXPECT_TRUE(table.Payout[45].Visible);
-    EXPECT_EQ(table.Graphics().back(), &table.Payout[45]);
-    // The stake stays where it is, under what is paid for it.
-    EXPECT_FALSE(play.IsHome(12) || play.IsHome(49));
-  });
-  ASSERT_TRUE(play.ThrowCup());
-}
-
 }  // namespace

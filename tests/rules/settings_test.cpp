@@ -105,20 +105,4 @@ TEST(Settings, SoundFlag) {
   }
 }
 
-TEST(Settings, RunWithoutATableLeavesTheCounts) {
-  const std::function<void(Play&)> ends[] = {
-      [](Play& play) { play.desktop.CloseFrame(); },
-      [](Play& play) { play.desktop.Menu("mnuExit"); },
-      [](Play& play) { play.desktop.ClickAt(play.frame->Splash.ExitButton.Left + 9, 330); },
-  };
-  for (const auto& end : ends) {
-    Store store = simulated::Stashed(3, 2, 40);
-    Play play(store);
-    ASSERT_TRUE(play.Start());
-    EXPECT_FALSE(play.Do([&] { end(play); }));
-    EXPECT_EQ(play.desktop.saved, (std::vector<std::string>{"SoundOn=True", "MainLeft=4800", "MainTop=2612"}));
-    EXPECT_TRUE(play.desktop.questions.empty());
-  }
-}
-
 }  // namespace

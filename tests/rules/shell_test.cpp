@@ -13,17 +13,6 @@ using Counts = std::array<std::int64_t, 3>;
 
 const std::string kAt = "Thistle and Lantern/Settings/";
 
-TEST(Opening, NewGameLoadsTheTableOnTopOfIt) {
-  Store store = simulated::Stashed(2, 0, 0);
-  Play play(store);
-  ASSERT_TRUE(play.Start());
-  play.desktop.answers = {true};
-  play.desktop.Menu("mnuNewGame");
-  EXPECT_EQ(play.frame->Children(), (std::vector<desktop::Form*>{&play.frame->Splash, &play.table()}));
-  EXPECT_EQ(play.desktop.questions.size(), 1U);  // the offer alone
-  EXPECT_EQ(play.money().MoneyCount, (Counts{2, 0, 0}));
-}
-
 TEST(Fitting, OffsetIsTheStartOfTheRun) {
   Store store{{kAt + "MainLeft", "150"}, {kAt + "MainTop", "-300"}};
   Play play(store);
@@ -63,17 +52,6 @@ TEST(Menu, AsksBeforeItActs) {
       EXPECT_EQ(play.money().MoneyCount, fresh ? (Counts{13, 12, 10}) : (Counts{0, 2, 3}));
       EXPECT_EQ(play.table().BetValue[0], fresh ? 0 : 10);
     }
-}
-
-TEST(Menu, AsksNothingWithAllMoneyOnTheMat) {
-  for (const std::string entry : {"mnuNewGame", "mnuExit"}) {
-    AtTable play({1, 0, 0});
-    ASSERT_TRUE(play.Bet(0, 0));
-    play.Do([&] { play.desktop.Menu(entry); });
-    EXPECT_EQ(play.desktop.questions.size(), 1U);
-    EXPECT_EQ(play.ended, entry == "mnuExit");
-    EXPECT_EQ(play.store[kAt + "Stash0"], play.ended ? "0" : "1");
-  }
 }
 
 }  // namespace

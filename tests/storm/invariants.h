@@ -40,6 +40,10 @@ class Invariants {
   void AtRest() {
     const auto& count = play_.money().MoneyCount;
     for (int n = 0; n < 60; ++n) EXPECT_FALSE(Staked(n) && play_.IsHome(n)) << "listed, but at home: " << n;
+    for (const auto& piece : table_.Money) EXPECT_TRUE(piece.Enabled || !piece.Visible) << piece.Index;
+    EXPECT_TRUE(std::ranges::none_of(table_.Payout, &Element::Visible) && table_.Instruction[0].Visible);
+    EXPECT_EQ(table_.Instruction[1].Visible, staked_ != 0);
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(table_.Label3[i].Caption, Pounds(play_.money().MoneyValue[i])) << i;
     EXPECT_TRUE(table_.CupStanding.Visible && std::ranges::all_of(table_.Dice, &Element::Visible));
     EXPECT_TRUE(std::ranges::all_of(table_.DiceFrame, [](int frame) { return frame % 4 == 0; }));
     const bool canChange = (count[1] < 20 && count[0] != 0) || (count[2] < 20 && (count[0] != 0 || count[1] != 0));
@@ -49,6 +53,8 @@ class Invariants {
   }
 
  private:
+  static std::string Pounds(std::int64_t pounds) { return "£" + std::to_string(pounds); }
+
   bool Staked(int piece) const { return (staked_ >> piece & 1) != 0; }
 
   const Element* PieceInHand() const {
@@ -69,6 +75,8 @@ class Invariants {
         stake += thistle::PieceValue[thistle::Denomination(pieces[place])];
       }
       EXPECT_EQ(table_.BetValue[square], stake) << square;
+      const std::string& caption = table_.Label1[square].Caption;
+      EXPECT_TRUE(Throwing() || caption == (stake == 0 ? "" : Pounds(stake) + " Bet")) << caption;
     }
     EXPECT_EQ(std::popcount(staked_), listed) << "a piece is listed twice";
   }
