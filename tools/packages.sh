@@ -4,9 +4,9 @@
 BUILD=(g++ cmake ninja-build qt6-base-dev libsdl2-dev)
 # A virtual display, and what plays on it.
 DISPLAY_TOOLS=(xvfb openbox python3-xlib python3-pil)
-TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon metacity pulseaudio pulseaudio-utils
+TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon metacity pulseaudio pulseaudio-utils faketime
        python3-numpy python3-scipy librsvg2-bin
-       file dpkg-dev lintian desktop-file-utils appstream man-db lintian debootstrap dpkg-dev)
+       file dpkg-dev lintian desktop-file-utils appstream man-db debootstrap)
 
 say() { printf '%s: %s\n' "${0##*/}" "$*"; }
 

@@ -1,10 +1,12 @@
 #!/usr/bin/python3
-"""What can go wrong around the program: no sound or its server gone, no place for its settings, start after start."""
+"""What can go wrong around the program: no sound or its server gone, no place for its settings, a clock that jumps, start
+after start."""
 
 import os
 import pathlib
 import signal
 import socket
+import time
 import unittest
 from unittest import mock
 
@@ -46,10 +48,11 @@ class Faults(unittest.TestCase):
     def setUp(self):
         self.desk = self.enterContext(Desk())
 
-    def throw(self, game):
+    def throw(self, game, amid=lambda: None):
         game.bet(2, 0, 0)
         game.click(CUP)
         wait_until("the dice to be thrown", lambda: dice_squares(game.canvas()) is None)
+        amid()
         game.wait_for_turn()
 
     def game_after(self, preparation, **variables):
@@ -102,6 +105,24 @@ class Faults(unittest.TestCase):
             game.wait_for_turn()
             self.assertEqual(game.close(), 0)
         self.assertEqual(settings(self.desk), OLD)
+
+    def test_a_clock_set_back_and_a_sleep_of_the_machine_in_mid_throw(self):
+        clock = pathlib.Path(self.desk.home, "clock")
+        clock.write_text("+0")
+        fake, = pathlib.Path("/usr/lib").glob("*/faketime/libfaketimeMT.so.1")
+        # The clock on the wall alone: no one can set the one that counts from the machine's start.
+        with Game(self.desk, LD_PRELOAD=str(fake), FAKETIME_TIMESTAMP_FILE=str(clock), FAKETIME_NO_CACHE="1",
+                  DONT_FAKE_MONOTONIC="1", ASAN_OPTIONS="verify_asan_link_order=0") as game:
+            game.play()
+            self.throw(game, lambda: clock.write_text("-1h"))
+
+            def sleep():
+                game.process.send_signal(signal.SIGSTOP)
+                time.sleep(4)
+                game.process.send_signal(signal.SIGCONT)
+
+            self.throw(game, sleep)
+            self.assertEqual(game.close(), 0)
 
     def test_a_hundred_starts_and_ends_at_an_odd_scale(self):
         write_settings(self.desk, **OLD)

@@ -15,29 +15,23 @@ using desktop::qt::FormView;
 
 void Desk::RunEventsUntil(double moment) {
   ++rests;
-  if (pace == Pace::Fast) skipped_ += std::max(0.0, moment - Clock() - 0.001);
-  constexpr double kHour = 3600;
-  QtDesktop::RunEventsUntil(pace == Pace::Frozen ? moment + kHour : moment);
+  if (hurries) skipped_ += std::max(0.0, moment - Clock() - 0.001);
+  QtDesktop::RunEventsUntil(moment);
   inRest();
 }
 
 float Desk::Random() {
-  if (draws.empty()) return chance_.Next();
+  if (draws.empty()) return QtDesktop::Random();
   const float draw = draws.front();
   draws.pop_front();
   return draw;
 }
 
 void WhenAsked(const std::function<void(QMessageBox&)>& look) {
-  auto* poll = new QTimer(qApp);
-  QObject::connect(poll, &QTimer::timeout, poll, [poll, look] {
+  QTimer::singleShot(1, [look] {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible()) return;
-    poll->stop();
-    poll->deleteLater();
-    look(*box);
+    box && box->isVisible() ? look(*box) : WhenAsked(look);
   });
-  poll->start(1);
 }
 
 void Answer(QMessageBox& box, QMessageBox::StandardButton answer) {
@@ -73,7 +67,6 @@ QImage OnDesk::Shown(QWidget& widget, QRect part) {
   QWidget& window = *widget.window();
   // Taken from behind the window: the platform's own grab cuts off what a scaled screen adds.
   const auto* all = dynamic_cast<const QImage*>(window.backingStore()->paintDevice());
-  if (!all) return {};
   QImage shown = all->copy(Device(QRect(widget.mapTo(&window, part.topLeft()), part.size())) & all->rect());
   shown.setDevicePixelRatio(1);
   return shown.convertedTo(QImage::Format_RGB32);
@@ -108,17 +101,21 @@ void OnDesk::Click(const desktop::Form& form, QPoint at) {
   Release(form, at);
 }
 
+void OnDesk::Carry(const desktop::Form& form, QPoint from, QPoint to) {
+  Press(form, from);
+  Release(form, to);
+}
+
 void OnDesk::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(desktop.window().windowHandle(), key, modifiers);
 }
 
 void OnDesk::Menu(const QString& text) {
-  for (QAction* action : desktop.window().findChildren<QAction*>())
-    if (QString(action->text()).remove('&') == text && !action->menu()) {
-      action->trigger();
-      return;
-    }
-  FAIL() << text.toStdString();
+  const auto entries = desktop.window().findChildren<QAction*>();
+  const auto entry = std::ranges::find_if(
+      entries, [&](QAction* action) { return QString(action->text()).remove('&') == text && !action->menu(); });
+  ASSERT_NE(entry, entries.end()) << text.toStdString();
+  (*entry)->trigger();
 }
 
 }  // namespace on_screen

@@ -11,38 +11,30 @@
 #include <deque>
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "desktop/qt/qt_desktop.h"
 #include "shell/frmMain.h"
 
 namespace on_screen {
 
-enum class Pace {
-  Fast,    ///< a wait takes a millisecond, and events run in it
-  Real,    ///< as for a player
-  Frozen,  ///< the clock stands still: nothing but an event ends a rest
-};
-
 /// The real desktop, less its speakers and the end of its process.
 class Desk : public desktop::qt::QtDesktop {
  public:
-  Pace pace = Pace::Fast;
+  bool hurries = true;                   ///< a wait takes a millisecond, and events run in it
   std::function<void()> inRest = [] {};  ///< runs at the end of each rest
   int rests = 0;
   std::deque<float> draws;  ///< dealt first; then a generator goes on
-  std::vector<std::string> sounds;
-  bool ended = false;
+  std::string lastSound;
 
-  double Clock() const override { return pace == Pace::Frozen ? skipped_ : QtDesktop::Clock() + skipped_; }
+  double Clock() const override { return QtDesktop::Clock() + skipped_; }
   void RunEventsUntil(double moment) override;
+  void Randomize() override {}
   float Random() override;
-  void PlayWave(const desktop::WaveImage& image) override { sounds.emplace_back(image.name); }
-  void EndProcess() override { ended = true; }
+  void PlayWave(const desktop::WaveImage& image) override { lastSound = image.name; }
+  void EndProcess() override {}
 
  private:
   double skipped_ = 0;
-  desktop::Chance chance_;
 };
 
 /// Has `look` see the next question box once it is open. It must answer.
@@ -72,6 +64,7 @@ class OnDesk : public testing::Test {
   void Move(const desktop::Form& form, QPoint to);
   void Release(const desktop::Form& form, QPoint at, Qt::MouseButton button = Qt::LeftButton);
   void Click(const desktop::Form& form, QPoint at);
+  void Carry(const desktop::Form& form, QPoint from, QPoint to);
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
   /// Chooses an entry of the menu by its text.
   void Menu(const QString& text);
