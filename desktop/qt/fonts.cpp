@@ -1,8 +1,10 @@
 #include "desktop/qt/fonts.h"
 
 #include <QFontDatabase>
+#include <QLibrary>
 #include <QResource>
 #include <QStringList>
+#include <thread>
 #include <utility>
 
 namespace desktop::qt {
@@ -21,6 +23,17 @@ void LoadCarried(const Font& font) {
 }
 
 }  // namespace
+
+void ReadSystemFontsAhead() {
+#ifdef Q_OS_LINUX
+  std::thread([] {
+    using Init = int (*)();
+    // The library allows this on any thread, also while the toolkit asks for the same.
+    if (const auto init = reinterpret_cast<Init>(QLibrary::resolve(QStringLiteral("libfontconfig.so.1"), "FcInit")))
+      init();
+  }).detach();
+#endif
+}
 
 QFont ToQt(const Font& font) {
   LoadCarried(font);
