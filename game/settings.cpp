@@ -1,23 +1,50 @@
 #include "game/settings.h"
 
-#include <charconv>
 #include <cmath>
+#include <locale>
+#include <sstream>
+#include <string>
 
 namespace thistle::settings {
 
 namespace {
 
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// How many characters at the beginning of `text` make a decimal number with an optional sign, fraction
+/// and exponent. 0 where there is none.
+std::size_t NumberLength(std::string_view text) {
+  std::size_t at = 0;
+  const auto skip = [&](std::string_view any) {
+    if (at < text.size() && any.find(text[at]) != std::string_view::npos) ++at;
+  };
+  const auto digits = [&] {
+    const std::size_t begin = at;
+    while (at < text.size() && IsDigit(text[at])) ++at;
+    return at - begin;
+  };
+  skip("+-");
+  const std::size_t whole = digits();
+  skip(".");
+  if (digits() + whole == 0) return 0;
+  const std::size_t mantissa = at;
+  skip("eE");
+  if (at == mantissa) return mantissa;
+  skip("+-");
+  return digits() > 0 ? at : mantissa;
+}
+
 std::optional<double> ParseNumber(std::string_view text) {
   const auto start = text.find_first_not_of(" \t\r\n\v\f");
   if (start == std::string_view::npos) return std::nullopt;
   text.remove_prefix(start);
-  // from_chars knows no plus sign, and it must not be followed by another sign.
-  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  const std::size_t length = NumberLength(text);
+  if (length == 0) return std::nullopt;
+  // A point is a point whatever the user's language. from_chars would do, but some libraries lack it.
+  std::istringstream stream{std::string(text.substr(0, length))};
+  stream.imbue(std::locale::classic());
   double number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error == std::errc::invalid_argument) return std::nullopt;
-  // Beyond a double's range from_chars leaves the number alone. No run writes such a thing.
-  if (error == std::errc::result_out_of_range) return HUGE_VAL;
+  stream >> number;
   return number;
 }
 

@@ -16,8 +16,8 @@ inline constexpr std::string_view kTrue = "True";
 inline constexpr std::string_view kFalse = "False";
 
 /// The number that `text` begins with, after any blanks: the longest prefix that is a decimal
-/// number with an optional sign, fraction and exponent, or an infinity or a not-a-number spelled
-/// out. 0 where there is none.
+/// number with an optional sign, fraction and exponent. 0 where there is none; the largest double, or
+/// beyond, where it is larger.
 double LeadingNumber(std::string_view text);
 
 /// A count of pieces from its stored text. A fraction is cut off. What no pile can hold counts as 0:

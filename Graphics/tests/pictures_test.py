@@ -51,6 +51,14 @@ SPOILED = [
     ("Wood", lambda image: image.point(lambda tone: tone - 6).convert("RGB"), "mean colour"),
     ("FaceClub", lambda image: image.paste("white", (0, 0, *image.size)), "next to nothing"),
 ]
+# A file, what becomes of it, and what the check must say.
+SPOILED_FILES = [
+    ("OnePound@2x.png", Path.unlink, "missing"),
+    ("FaceClub.png", lambda file: file.write_bytes(file.read_bytes() + bytes(9000)), "kB"),
+    ("Wood.png", lambda file: Image.open(file).convert("RGB").save(file, "JPEG"), "JPEG"),
+    ("MatHeart@2x.png", lambda file: shutil.copy(ALL["MatSpade"].file(catalogue.PICTURES, 2), file),
+     "does not show what MatHeart.png shows"),
+]
 
 
 class Spoiled(unittest.TestCase):
@@ -83,23 +91,14 @@ class Spoiled(unittest.TestCase):
                 self.expect(file.name, fault)
             file.write_bytes(good)
 
-    def test_missing_picture(self):
-        (self.folder / "OnePound@2x.png").unlink()
-        self.expect("OnePound@2x.png", "missing")
-
-    def test_bloated_file(self):
-        with (self.folder / "FaceClub.png").open("ab") as file:
-            file.write(bytes(9000))
-        self.expect("FaceClub.png", "kB")
-
-    def test_other_format_under_the_same_name(self):
-        file = self.folder / "Wood.png"
-        Image.open(file).convert("RGB").save(file, "JPEG")
-        self.expect("Wood.png", "JPEG")
-
-    def test_double_of_another_picture(self):
-        shutil.copy(ALL["MatSpade"].file(catalogue.PICTURES, 2), self.folder / "MatHeart@2x.png")
-        self.expect("MatHeart@2x.png does not show what MatHeart.png shows")
+    def test_spoiled_file(self):
+        for name, spoil, fault in SPOILED_FILES:
+            file = self.folder / name
+            good = file.read_bytes()
+            with self.subTest(name, fault=fault):
+                spoil(file)
+                self.expect(name, fault)
+            file.write_bytes(good)
 
     def test_stranger(self):
         shutil.copy(self.folder / "Wood.png", self.folder / "Would.png")

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <string>
 
 #include "game/settings.h"
@@ -19,11 +20,9 @@ void Demand(bool holds, const char* what, std::string_view text) {
   std::abort();
 }
 
-bool Same(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); }
-
-/// Reads a number by other means: the C library knows the same ones, and hexadecimal ones too.
+/// Reads a number by other means: the C library knows the same ones, and hexadecimal and spelled-out ones too.
 double NumberOf(std::string text) {
-  text = text.substr(0, text.find_first_of("xX"));
+  text = text.substr(0, text.find_first_of("xXiInN"));
   return std::strtod(text.c_str(), nullptr);
 }
 
@@ -39,8 +38,8 @@ void CheckText(std::string_view text) {
   const auto flag = Flag(text);
   Demand(count >= 0 && count <= std::int64_t{1} << 53, "a count that no pile can hold", text);
   const double other = NumberOf(std::string(text));
-  const bool beyond = number == HUGE_VAL && !std::isnormal(other);
-  Demand(Same(number, other) || beyond, "a number that the C library reads in another way", text);
+  const bool beyond = std::isinf(other) && std::abs(number) >= std::numeric_limits<double>::max();
+  Demand(number == other || beyond, "a number that the C library reads in another way", text);
   const bool countable = other >= 0 && other <= 0x1p53;
   Demand(count == (countable ? static_cast<std::int64_t>(other) : 0), "a count that is not the number cut off", text);
   Demand(!place || std::isfinite(*place), "a place that is nowhere", text);
@@ -54,7 +53,7 @@ void CheckText(std::string_view text) {
   // Blanks before a number do not matter, nor anything behind it that cannot go on with it.
   for (const auto& changed :
        {" \t\r\n\v\f" + std::string(text), std::string(text) + "|1", std::string(text) + "zeal"}) {
-    Demand(Same(LeadingNumber(changed), number), "another number", changed);
+    Demand(LeadingNumber(changed) == number, "another number", changed);
     Demand(PieceCount(changed) == count, "another count", changed);
     Demand(Place(changed) == place, "another place", changed);
   }

@@ -77,13 +77,6 @@ TEST(Change, SecondClickRunsInsideTheFirst) {
     // The rest of the wait that was broken into runs out meanwhile.
     EXPECT_NEAR(play.desktop.Clock(), 2 * 2.25 - 0.125, 1e-9);
   }
-  // With one note to change the inner click finds what the outer one has left.
-  AtTable play({1, 0, 0});
-  const Ledger ledger(play);
-  for (int rest = 1; rest <= 12; ++rest) play.desktop.InRest(rest, [&] { play.ClickChange(); });
-  ASSERT_TRUE(play.ClickChange());
-  EXPECT_EQ(play.money().MoneyValue[3], 10);
-  EXPECT_EQ(play.money().MoneyCount[0], 0);
 }
 
 TEST(Change, PiecesAndCupWaitForItsEnd) {

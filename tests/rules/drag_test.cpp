@@ -124,11 +124,6 @@ TEST_F(Drag, FullSquareSendsAPieceHome) {
 }
 
 TEST_F(Drag, RightButtonCarriesNothing) {
-  const Spot grip = play.Grip(kNote);
-  play.desktop.Press(grip.x, grip.y, kRightButton);
-  ExpectUntouched();
-  play.desktop.Release(grip.x, grip.y, kRightButton);
-
   // Pressed during a drag it stops the piece until it is up again.
   ASSERT_TRUE(play.Press(kNote) && play.Move({300, 300}));
   play.desktop.Press(300, 300, kRightButton);
