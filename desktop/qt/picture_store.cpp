@@ -1,6 +1,7 @@
 #include "desktop/qt/picture_store.h"
 
 #include <QImage>
+#include <QThreadPool>
 
 #include "desktop/qt/text.h"
 
@@ -17,6 +18,9 @@ QImage Load(const Picture& picture, bool twice) {
 }
 
 }  // namespace
+
+// The toolkit stretches with threads of a pool. They would stay half a minute, and wake an idle program to end.
+PictureStore::PictureStore() { QThreadPool::globalInstance()->setExpiryTimeout(0); }
 
 const QPixmap& PictureStore::At(const Picture& picture, double ratio) {
   return Sized(picture,

@@ -12,6 +12,8 @@ namespace desktop::qt {
 
 class PictureStore {
  public:
+  PictureStore();
+
   /// The picture in device pixels for a screen of `ratio` device pixels to the layout's pixel, to be
   /// drawn pixel for pixel. At 1 and 2 these are the pixels of the carried file; between, the larger
   /// file is reduced once.
