@@ -106,8 +106,8 @@ void OnDesk::Carry(const desktop::Form& form, QPoint from, QPoint to) {
   Release(form, to);
 }
 
-void OnDesk::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  QTest::keyClick(desktop.window().windowHandle(), key, modifiers);
+void OnDesk::Key(Qt::Key key) {
+  QTest::keyClick(desktop.window().windowHandle(), key);
 }
 
 void OnDesk::Menu(const QString& text) {

@@ -65,7 +65,7 @@ class OnDesk : public testing::Test {
   void Release(const desktop::Form& form, QPoint at, Qt::MouseButton button = Qt::LeftButton);
   void Click(const desktop::Form& form, QPoint at);
   void Carry(const desktop::Form& form, QPoint from, QPoint to);
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+  void Key(Qt::Key key);
   /// Chooses an entry of the menu by its text.
   void Menu(const QString& text);
 

@@ -124,7 +124,6 @@ TEST_F(Table, PaintsNoMoreThanHasChangedAndDecodesNothing) {
     EXPECT_EQ(painted.isEmpty(), old == Place(coin)) << step.x();
   }
   Release(table, {60, 200});
-
   watch.Take();
 
   int ticks = 0;
