@@ -1,11 +1,14 @@
 #include "desktop/qt/fonts.h"
 
 #include <QFontDatabase>
-#include <QLibrary>
 #include <QResource>
 #include <QStringList>
 #include <thread>
 #include <utility>
+
+#ifdef Q_OS_LINUX
+#include <dlfcn.h>
+#endif
 
 namespace desktop::qt {
 
@@ -27,10 +30,11 @@ void LoadCarried(const Font& font) {
 void ReadSystemFontsAhead() {
 #ifdef Q_OS_LINUX
   std::thread([] {
+    // Without the toolkit: it takes the thread that first uses it for the main one. The library itself allows this
+    // on any thread, also while the toolkit asks for the same.
     using Init = int (*)();
-    // The library allows this on any thread, also while the toolkit asks for the same.
-    if (const auto init = reinterpret_cast<Init>(QLibrary::resolve(QStringLiteral("libfontconfig.so.1"), "FcInit")))
-      init();
+    void* library = dlopen("libfontconfig.so.1", RTLD_LAZY);
+    if (const auto init = library ? reinterpret_cast<Init>(dlsym(library, "FcInit")) : nullptr) init();
   }).detach();
 #endif
 }
