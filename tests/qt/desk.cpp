@@ -106,9 +106,7 @@ void OnDesk::Carry(const desktop::Form& form, QPoint from, QPoint to) {
   Release(form, to);
 }
 
-void OnDesk::Key(Qt::Key key) {
-  QTest::keyClick(desktop.window().windowHandle(), key);
-}
+void OnDesk::Key(Qt::Key key) { QTest::keyClick(desktop.window().windowHandle(), key); }
 
 void OnDesk::Menu(const QString& text) {
   const auto entries = desktop.window().findChildren<QAction*>();
