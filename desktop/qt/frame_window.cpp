@@ -97,12 +97,14 @@ void FrameWindow::Appear() {
   winId();
   windowHandle()->setBaseSize(FixedSize());
   windowHandle()->setSizeIncrement(kNoOtherSize);
+  windowHandle()->installEventFilter(this);
   show();
 }
 
-void FrameWindow::paintEvent(QPaintEvent*) {
-  // The picture goes to the screen when all that stands in the window has been painted too.
-  if (whenSeen_) QTimer::singleShot(0, this, std::exchange(whenSeen_, nullptr));
+bool FrameWindow::eventFilter(QObject*, QEvent* event) {
+  // What comes into view is painted there and then.
+  if (event->type() == QEvent::Expose && whenSeen_) QTimer::singleShot(0, this, std::exchange(whenSeen_, nullptr));
+  return false;
 }
 
 void FrameWindow::resizeEvent(QResizeEvent*) {

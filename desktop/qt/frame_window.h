@@ -20,13 +20,13 @@ class FrameWindow : public QWidget {
 
   /// Appears at the frame's place and size.
   void Appear();
-  /// Runs `task` once the window's first picture is on the screen.
+  /// Runs `task` once the window's first picture is on the screen. To be said before it appears.
   void WhenSeen(std::function<void()> task) { whenSeen_ = std::move(task); }
   /// The widget in which the forms stand.
   QWidget& area() { return *area_; }
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void changeEvent(QEvent* event) override;
