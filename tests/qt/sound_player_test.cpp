@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <cstring>
 #include <functional>
 #include <numeric>
 #include <optional>
@@ -89,7 +88,7 @@ class Sound : public testing::Test {
     QFile file(File());
     const QByteArray bytes = file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
     Samples heard(static_cast<std::size_t>(bytes.size()) / sizeof(std::int16_t));
-    std::memcpy(heard.data(), bytes.data(), heard.size() * sizeof(std::int16_t));
+    std::copy_n(bytes.data(), 2 * heard.size(), reinterpret_cast<char*>(heard.data()));
     return {heard.begin() + static_cast<std::ptrdiff_t>(std::min(from, heard.size())), heard.end()};
   }
   /// The last block that has begun.
