@@ -1,14 +1,12 @@
 // The program: the real desktop, and the frame on it.
 #include <QApplication>
 
-#include "desktop/qt/fonts.h"
 #include "desktop/qt/qt_desktop.h"
 #include "shell/frmMain.h"
 
 int main(int, char** argv) {
   // Only the program's name: nothing on the command line means anything here.
   int count = 1;
-  desktop::qt::ReadSystemFontsAhead();
   desktop::qt::ChoosePlatform();
   QApplication application(count, argv);
   desktop::qt::QtDesktop desktop;

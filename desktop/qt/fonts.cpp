@@ -3,12 +3,7 @@
 #include <QFontDatabase>
 #include <QResource>
 #include <QStringList>
-#include <thread>
 #include <utility>
-
-#ifdef Q_OS_LINUX
-#include <dlfcn.h>
-#endif
 
 namespace desktop::qt {
 
@@ -26,18 +21,6 @@ void LoadCarried(const Font& font) {
 }
 
 }  // namespace
-
-void ReadSystemFontsAhead() {
-#ifdef Q_OS_LINUX
-  std::thread([] {
-    // Without the toolkit: it takes the thread that first uses it for the main one. The library itself allows this
-    // on any thread, also while the toolkit asks for the same.
-    using Init = int (*)();
-    void* library = dlopen("libfontconfig.so.1", RTLD_LAZY);
-    if (const auto init = library ? reinterpret_cast<Init>(dlsym(library, "FcInit")) : nullptr) init();
-  }).detach();
-#endif
-}
 
 QFont ToQt(const Font& font) {
   LoadCarried(font);

@@ -1,5 +1,4 @@
-// The carried type: Liberation Serif, so that every caption fits its box on every machine. And what the
-// system's own type, which menus are set in, costs at the start.
+// The carried type: Liberation Serif, so that every caption fits its box on every machine.
 #pragma once
 
 #include <QFont>
@@ -7,10 +6,6 @@
 #include "desktop/look.h"
 
 namespace desktop::qt {
-
-/// Has the system's list of fonts read on a thread of its own, beside the toolkit's start, where that
-/// takes long. Before the QApplication is made.
-void ReadSystemFontsAhead();
 
 /// Sized in pixels, so that the layout holds whatever the screen's density. A style's font file is
 /// loaded when it is asked for first.
