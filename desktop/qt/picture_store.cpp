@@ -1,6 +1,7 @@
 #include "desktop/qt/picture_store.h"
 
 #include <QImage>
+#include <QPixmapCache>
 #include <QThreadPool>
 
 #include "desktop/qt/text.h"
@@ -19,8 +20,12 @@ QImage Load(const Picture& picture, bool twice) {
 
 }  // namespace
 
-// The toolkit stretches with threads of a pool. They would stay half a minute, and wake an idle program to end.
-PictureStore::PictureStore() { QThreadPool::globalInstance()->setExpiryTimeout(0); }
+// What would wake an idle program half a minute later: threads that have helped to stretch a picture, to end, and
+// the toolkit's own store of pixmaps, to look through itself.
+PictureStore::PictureStore() {
+  QThreadPool::globalInstance()->setExpiryTimeout(0);
+  QPixmapCache::setCacheLimit(0);
+}
 
 const QPixmap& PictureStore::At(const Picture& picture, double ratio) {
   return Sized(picture,
