@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QPixmapCache>
-#include <QThreadPool>
 
 #include "desktop/qt/text.h"
 
@@ -20,12 +19,8 @@ QImage Load(const Picture& picture, bool twice) {
 
 }  // namespace
 
-// What would wake an idle program half a minute later: threads that have helped to stretch a picture, to end, and
-// the toolkit's own store of pixmaps, to look through itself.
-PictureStore::PictureStore() {
-  QThreadPool::globalInstance()->setExpiryTimeout(0);
-  QPixmapCache::setCacheLimit(0);
-}
+// The toolkit's own store of pixmaps would wake an idle program half a minute later, to look through itself.
+PictureStore::PictureStore() { QPixmapCache::setCacheLimit(0); }
 
 const QPixmap& PictureStore::At(const Picture& picture, double ratio) {
   return Sized(picture,
