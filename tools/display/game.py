@@ -218,9 +218,9 @@ class Game:
         title = box(self.canvas(), TITLE_BOX, self.scale)
         return HEADING in [colour for _, colour in title.getcolors(title.width * title.height)]
 
-    def can_bet(self):
-        """The first instruction shows exactly while a turn is open."""
-        return box(self.canvas(), INSTRUCTIONS[0], self.scale).getpixel((1, 1)) == INSTRUCTION
+    def can_bet(self, canvas=None):
+        """The first instruction shows exactly while a turn is open. On this picture, or now."""
+        return box(canvas or self.canvas(), INSTRUCTIONS[0], self.scale).getpixel((1, 1)) == INSTRUCTION
 
     # --- Doing
 

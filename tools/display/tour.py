@@ -76,7 +76,7 @@ def tour(game):
     # The first caption is the first sign that the dice have come to rest for good.
     stage("first outcome", lambda canvas: any(differs_in(canvas, bets.canvas, place) for place in CAPTIONS))
     yield stage("settlement", lambda canvas: (dice := dice_squares(canvas)) and shows(canvas, *last_payout(dice)))
-    yield stage("next-turn", lambda _: game.can_bet())
+    yield stage("next-turn", game.can_bet)
 
 
 def main(program, folder):
