@@ -12,6 +12,17 @@ inline constexpr desktop::Colour kInstruction{0xFFE0C0};
 inline constexpr desktop::Colour kCommand1{0xC04000};
 inline constexpr desktop::Colour kTitle{0xE08800};  ///< headings of the forms around the table
 
+/// Edges cut into honey-coloured wood.
+inline constexpr desktop::ButtonLook kWoodenButton{
+    .Rim = {{0x603800}},
+    .Lit = {{0xFFFFFF}, 170},
+    .Shaded = {{0x603800}, 150},
+    .Focus = {{0x402400}},
+    .Pressed = {{0x603000}, 56},
+    .Disabled = {{0xFFFFFF}, 112},
+    .DeadCaption = {0x605030},
+};
+
 inline constexpr desktop::Colour kRed{0xFF0000};
 inline constexpr desktop::Colour kLink{0x0000FF};
 inline constexpr desktop::Colour kAbout{0xFFFFC0};

@@ -1,6 +1,8 @@
 // One thing that stands on a form, as a plain record: where it is and what it shows.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,7 +15,7 @@ namespace desktop {
 
 enum class Kind {
   Shape,         ///< a filled rectangle; takes no events
-  Frame,         ///< a bordered panel behind other elements; takes no events
+  Panel,         ///< a bordered panel behind other elements; takes no events
   Line,          ///< a filled rectangle drawn on the form's ground; takes no events
   Image,         ///< a picture
   Label,         ///< a text, on a ground of its own or on none
@@ -25,7 +27,7 @@ enum class Kind {
 
 /// Places and sizes are pixels from the form's top left corner.
 struct Element {
-  Kind kind = Kind::Image;
+  desktop::Kind Kind = desktop::Kind::Image;
   std::string_view Name;  ///< the control's name
   int Index = 0;          ///< its place in its control array, from 0; 0 where there is no array
 
@@ -46,6 +48,8 @@ struct Element {
   Colour ForeColor{0x000000};
   std::optional<Colour> BackColor;  ///< none: what lies behind shows through
 
+  const ButtonLook* Look = nullptr;  ///< of a button
+
   bool Default = false;  ///< a button that Enter presses wherever the focus is
   bool Cancel = false;   ///< a button that Esc presses
   bool Value = false;    ///< an option button that is set
@@ -58,10 +62,14 @@ struct Element {
   bool Contains(float x, float y) const { return x >= Left && x < Left + Width && y >= Top && y < Top + Height; }
 
   bool IsControl() const {
-    return kind == Kind::Button || kind == Kind::OptionButton || kind == Kind::TextView || kind == Kind::Link;
+    using enum desktop::Kind;
+    return Kind == Button || Kind == OptionButton || Kind == TextView || Kind == Link;
   }
 
-  bool TakesFocus() const { return IsControl() && kind != Kind::Link; }
+  /// Answers mouse and keys.
+  bool Reacts() const { return Visible && Enabled; }
+
+  bool TakesFocus() const { return IsControl() && Kind != desktop::Kind::Link; }
 
   void MoveTo(float left, float top) {
     Left = left;
@@ -71,10 +79,16 @@ struct Element {
   /// Shows `picture`. An image that is not stretched takes its size; its top left corner stays.
   void SetPicture(const desktop::Picture& picture) {
     Picture = &picture;
-    if (kind != Kind::Image || Stretch) return;
+    if (Kind != desktop::Kind::Image || Stretch) return;
     Width = static_cast<float>(picture.width);
     Height = static_cast<float>(picture.height);
   }
 };
+
+/// Whether `element` is one of a control array.
+template <std::size_t count>
+bool IsOneOf(const std::array<Element, count>& controls, const Element& element) {
+  return std::ranges::any_of(controls, [&](const Element& control) { return &control == &element; });
+}
 
 }  // namespace desktop

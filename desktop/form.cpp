@@ -7,8 +7,8 @@ namespace desktop {
 namespace {
 
 bool TakesMouse(const Element& element) {
-  const bool reacts = element.kind == Kind::Image || element.kind == Kind::Label;
-  return reacts && element.Visible && element.Enabled;
+  const bool reacts = element.Kind == Kind::Image || element.Kind == Kind::Label;
+  return reacts && element.Reacts();
 }
 
 }  // namespace
@@ -18,6 +18,7 @@ void Form::Add(Element& element) { (element.IsControl() ? controls_ : graphics_)
 void Form::Clear() {
   graphics_.clear();
   controls_.clear();
+  Focus = nullptr;
 }
 
 void Form::BringToFront(const Element& element) {

@@ -35,6 +35,7 @@ class Form {
   int Border = 0;        ///< pixels on each side; elements count from inside it
   Colour BackColor;
   PointerShape MousePointer = PointerShape::Default;
+  Element* Focus = nullptr;  ///< the control that has the keyboard while the form is in front; written by the desktop
   /// Pictures that handlers give to elements while the form is on show: to be ready by then.
   std::vector<const Picture*> PicturesToCome;
 

@@ -23,15 +23,17 @@ void frmGame::ShowChange() {
 }
 
 void frmGame::Command1_Click() {
-  Running running(*this);
   ++exchanging_;
+  MakeChange();
+  --exchanging_;
+}
+
+void frmGame::MakeChange() {
   const auto& count = module1_.MoneyCount;
   if (count[kTen] != 0 && count[kFive] < kPiecesOfAKind) Exchange(kTen, kFive, 2);
   if (count[kFive] != 0 && count[kOne] < kPiecesOfAKind) Exchange(kFive, kOne, 5);
   EnableMoney();
   ShowChange();
-  --exchanging_;
-  running.End();
 }
 
 void frmGame::Exchange(int from, int to, int pieces) {

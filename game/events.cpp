@@ -3,37 +3,33 @@
 
 namespace thistle {
 
-namespace {
-
-bool IsMoney(const desktop::Element& element) { return element.Name == "Money"; }
-
-}  // namespace
+using desktop::IsOneOf;
 
 bool frmGame::HoldsBack(const desktop::Element& element) const {
   // A step of an exchange shows and hides pieces by their count alone, and a throw in the middle of
   // one could find the money short. So nothing but the button itself reacts until it is over.
-  return exchanging_ > 0 && (IsMoney(element) || &element == &CupStanding);
+  return exchanging_ > 0 && (IsOneOf(Money, element) || &element == &CupStanding);
 }
 
 void frmGame::MouseDown(desktop::Element& element, int Button, float X, float Y) {
-  if (IsMoney(element)) Money_MouseDown(element.Index, Button, X, Y);
+  if (IsOneOf(Money, element)) Money_MouseDown(element.Index, Button, X, Y);
 }
 
 void frmGame::MouseMove(desktop::Element& element, int Button, float X, float Y) {
-  if (IsMoney(element)) Money_MouseMove(element.Index, Button, X, Y);
+  if (IsOneOf(Money, element)) Money_MouseMove(element.Index, Button, X, Y);
 }
 
 void frmGame::MouseUp(desktop::Element& element, int Button, float X, float Y) {
-  if (IsMoney(element)) Money_MouseUp(element.Index, Button, X, Y);
+  if (IsOneOf(Money, element)) Money_MouseUp(element.Index, Button, X, Y);
 }
 
 void frmGame::MouseLost(desktop::Element& element) {
-  if (IsMoney(element)) Money_MouseLost(element.Index);
+  if (IsOneOf(Money, element)) Money_MouseLost(element.Index);
 }
 
 void frmGame::Click(desktop::Element& element) {
-  if (&element == &CupStanding) CupStanding_Click();
-  if (&element == &Command1) Command1_Click();
+  if (&element == &CupStanding) RunToItsEnd(&frmGame::CupStanding_Click);
+  if (&element == &Command1) RunToItsEnd(&frmGame::Command1_Click);
 }
 
 }  // namespace thistle

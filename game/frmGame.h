@@ -95,16 +95,11 @@ class frmGame : public desktop::Form {
   void ReadStash();
 
   // --- turn_cycle.cpp
-  /// Counts handlers that wait, nested ones too. When the last one ends, a New Game that came in
-  /// the meantime starts.
-  class Running {
-   public:
-    explicit Running(frmGame& table) : table_(table) { ++table_.running_; }
-    void End();
-
-   private:
-    frmGame& table_;
-  };
+  /// Runs a handler that waits, perhaps inside another one. When the last of them ends, a New Game that came in the
+  /// meantime starts. They are counted here alone: a handler that was left without being counted off would hold back
+  /// every New Game from then on. No destructor does it, as none may start a game while the end of the process
+  /// unwinds the stack.
+  void RunToItsEnd(void (frmGame::*handler)());
   /// A New Game waits for what is running, which goes on to its end without waits or sounds.
   bool Hurrying() const { return newGameWaits_; }
   void StartNewGame();
@@ -136,6 +131,7 @@ class frmGame : public desktop::Form {
 
   // --- change.cpp
   void Command1_Click();
+  void MakeChange();
   void Exchange(int from, int to, int pieces);
   void ShowChange();
 

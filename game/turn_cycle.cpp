@@ -4,10 +4,12 @@
 
 namespace thistle {
 
-void frmGame::Running::End() {
-  if (--table_.running_ > 0 || !table_.newGameWaits_) return;
-  table_.newGameWaits_ = false;
-  table_.StartNewGame();
+void frmGame::RunToItsEnd(void (frmGame::*handler)()) {
+  ++running_;
+  (this->*handler)();
+  if (--running_ > 0 || !newGameWaits_) return;
+  newGameWaits_ = false;
+  StartNewGame();
 }
 
 void frmGame::NewGame() {
@@ -68,7 +70,6 @@ void frmGame::OfferFreshStake() {
 }
 
 void frmGame::CupStanding_Click() {
-  Running running(*this);
   DisableMoney();
   Command1.Visible = false;
   CupStanding.Enabled = false;
@@ -77,7 +78,6 @@ void frmGame::CupStanding_Click() {
   ThrowDice();
   PayBets();
   NextTurn();
-  running.End();
 }
 
 }  // namespace thistle

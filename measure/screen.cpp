@@ -13,6 +13,7 @@
 #include <ctime>
 #include <functional>
 
+#include "desktop/qt/form_view.h"
 #include "desktop/qt/qt_desktop.h"
 #include "shell/frmMain.h"
 

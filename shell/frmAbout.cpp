@@ -4,7 +4,7 @@
 
 #include "Graphics/catalogue.h"
 #include "Graphics/colours.h"
-#include "desktop/layout.h"
+#include "desktop/building_blocks.h"
 #include "desktop/units.h"
 #include "game/identity.h"
 
@@ -68,7 +68,7 @@ void frmAbout::LayOut() {
   lblDescription = desktop::LaidLabel("lblDescription", 0, kDescription, Align::Left);
   lblDescription.Font = {15.75, true, false, false};
   Add(lblDescription);
-  Add(cmdOK = desktop::LaidClosingButton("cmdOK", kOK, "OK"));
+  Add(cmdOK = desktop::LaidClosingButton("cmdOK", kOK, "OK", colours::kWoodenButton));
 }
 
 void frmAbout::Form_Load() {

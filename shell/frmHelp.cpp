@@ -3,9 +3,9 @@
 #include "Graphics/catalogue.h"
 #include "Graphics/colours.h"
 #include "Graphics/instructions.h"
-#include "desktop/layout.h"
+#include "desktop/building_blocks.h"
 #include "game/identity.h"
-#include "shell/full_size.h"
+#include "shell/frame_size.h"
 
 namespace thistle {
 
@@ -29,7 +29,7 @@ void frmHelp::LayOut() {
   RichTextBox1.Text = &document_;
   RichTextBox1.AccessibleName = "Instructions";
   Add(RichTextBox1);
-  Command1 = desktop::LaidButton("Command1", kCommand1, "Return");
+  Command1 = desktop::LaidButton("Command1", kCommand1, "Return", colours::kWoodenButton);
   Command1.Font.points = 12;
   Command1.BackColor = colours::kReturn;
   Add(Command1);

@@ -2,8 +2,8 @@
 
 #include "Graphics/catalogue.h"
 #include "Graphics/colours.h"
-#include "desktop/layout.h"
-#include "shell/full_size.h"
+#include "desktop/building_blocks.h"
+#include "shell/frame_size.h"
 
 namespace thistle {
 
@@ -42,7 +42,7 @@ void frmOptions::LayOut() {
     Option1[i].AccessibleName = kCaption[i];
     Add(Option1[i]);
   }
-  Add(cmdOK = desktop::LaidClosingButton("cmdOK", kOK, "OK"));
+  Add(cmdOK = desktop::LaidClosingButton("cmdOK", kOK, "OK", colours::kWoodenButton));
 }
 
 void frmOptions::Form_Load() {
@@ -56,7 +56,7 @@ void frmOptions::Form_Load() {
 }
 
 void frmOptions::Click(desktop::Element& element) {
-  if (element.Name == "Option1") Option1_Click(element.Index);
+  if (desktop::IsOneOf(Option1, element)) Option1_Click(element.Index);
   if (&element == &cmdOK) cmdOK_Click();
 }
 

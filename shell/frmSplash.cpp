@@ -4,9 +4,9 @@
 
 #include "Graphics/catalogue.h"
 #include "Graphics/colours.h"
-#include "desktop/layout.h"
+#include "desktop/building_blocks.h"
 #include "game/identity.h"
-#include "shell/full_size.h"
+#include "shell/frame_size.h"
 
 namespace thistle {
 
@@ -45,7 +45,7 @@ void frmSplash::LayOut() {
   Clear();
   FillFrame(*this);
 
-  fraMainFrame = desktop::Laid(desktop::Kind::Frame, "fraMainFrame", 0, kPanel);
+  fraMainFrame = desktop::Laid(desktop::Kind::Panel, "fraMainFrame", 0, kPanel);
   fraMainFrame.BackColor = colours::kTable;
   Add(fraMainFrame);
   Add(Image1 = LaidImage("Image1", 0, kImage1, pictures::ThistleAndLantern128));
@@ -54,10 +54,10 @@ void frmSplash::LayOut() {
   Add(lblProductName = Title("lblProductName", kProduct, identity::kTitle, 42, true));
   lblProductName.ForeColor = colours::kTitle;
 
-  Add(ExitButton = LaidButton("ExitButton", kExit, OnThreeLines("Exit")));
-  Add(cmdOptions = LaidButton("cmdOptions", kOptions, OnThreeLines("Options")));
-  Add(PlayGame = LaidButton("PlayGame", kPlayGame, OnThreeLines("Play Game")));
-  Add(Instructions = LaidButton("Instructions", kInstructions, OnThreeLines("Instructions")));
+  Add(ExitButton = LaidButton("ExitButton", kExit, OnThreeLines("Exit"), colours::kWoodenButton));
+  Add(cmdOptions = LaidButton("cmdOptions", kOptions, OnThreeLines("Options"), colours::kWoodenButton));
+  Add(PlayGame = LaidButton("PlayGame", kPlayGame, OnThreeLines("Play Game"), colours::kWoodenButton));
+  Add(Instructions = LaidButton("Instructions", kInstructions, OnThreeLines("Instructions"), colours::kWoodenButton));
   for (Element* button : Controls()) {
     button->Font = kButtonFont;
     button->SetPicture(pictures::Wood);

@@ -2,9 +2,9 @@
 
 #include "Graphics/catalogue.h"
 #include "Graphics/colours.h"
-#include "desktop/layout.h"
+#include "desktop/building_blocks.h"
 #include "game/identity.h"
-#include "shell/full_size.h"
+#include "shell/frame_size.h"
 
 namespace thistle {
 
@@ -29,7 +29,7 @@ Element Text(std::string_view name, const Place& place, std::string_view caption
 
 Element Link(std::string_view name, const Place& place, std::string_view address) {
   Element link = Text(name, place, address, 18, colours::kLink);
-  link.kind = Kind::Link;
+  link.Kind = Kind::Link;
   link.Font.underline = true;
   return link;
 }
@@ -46,7 +46,7 @@ void frmSupport::LayOut() {
   Add(Label4 = Link("Label4", Row(2400, 495), identity::kSupportAddress));
   Add(Label5 = Text("Label5", Row(3120, 495), "Or Visit Our Web Site at", 18, colours::kRed));
   Add(Label6 = Link("Label6", Row(3720, 495), identity::kWebSite));
-  Add(cmdOK = desktop::LaidClosingButton("cmdOK", kOK, "Return"));
+  Add(cmdOK = desktop::LaidClosingButton("cmdOK", kOK, "Return", colours::kWoodenButton));
 }
 
 void frmSupport::Form_Load() {

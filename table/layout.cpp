@@ -1,7 +1,7 @@
 // The table form as it is laid out, before its load fills it in.
-#include "desktop/layout.h"
 #include "Graphics/catalogue.h"
 #include "Graphics/colours.h"
+#include "desktop/building_blocks.h"
 #include "desktop/units.h"
 #include "game/frmGame.h"
 #include "game/texts.h"
@@ -75,7 +75,7 @@ void frmGame::LayOutTable() {
   }
   for (int p = 0; p < kPayouts; ++p) Add(Payout[p] = Empty("Payout", p, places::Payout(p)));
 
-  Command1 = desktop::LaidButton("Command1", places::kCommand1, texts::kGetChange);
+  Command1 = desktop::LaidButton("Command1", places::kCommand1, texts::kGetChange, colours::kWoodenButton);
   Command1.BackColor = colours::kCommand1;
   Add(Command1);
 

@@ -1,7 +1,7 @@
 // The fixed places of everything on the table, in twips.
 #pragma once
 
-#include "desktop/layout.h"
+#include "desktop/building_blocks.h"
 
 namespace thistle::places {
 

@@ -11,6 +11,8 @@ namespace {
 
 template <typename Button>
 Control* Connected(Button* button, const ControlEvents& events) {
+  // Which control has the keyboard stands in the records.
+  button->setFocusPolicy(Qt::NoFocus);
   QObject::connect(button, &QAbstractButton::pressed, button, events.pressed);
   QObject::connect(button, &QAbstractButton::clicked, button, events.clicked);
   return button;
@@ -19,11 +21,11 @@ Control* Connected(Button* button, const ControlEvents& events) {
 }  // namespace
 
 Control* MakeControl(const Element& record, const ControlEvents& events, PictureStore& pictures, QWidget* parent) {
-  switch (record.kind) {
+  switch (record.Kind) {
     case Kind::OptionButton:
       return Connected(new OptionMark(parent), events);
     case Kind::Link:
-      return Connected(new LinkLabel(parent), events);
+      return Connected(new LinkLabel(pictures, parent), events);
     case Kind::TextView:
       return new TextView(pictures, parent);
     default:

@@ -18,10 +18,10 @@ class Control {
   virtual void Follow(const Element& record) = 0;
 };
 
-/// What a control tells the form.
+/// What a control tells the form: of the mouse alone, as keys go to the form.
 struct ControlEvents {
-  std::function<void()> pressed;  ///< the mouse went down on it
-  std::function<void()> clicked;  ///< by mouse or by key
+  std::function<void()> pressed;
+  std::function<void()> clicked;
 };
 
 /// Makes the widget for a record of a control's kind. The widget belongs to `parent`.

@@ -1,9 +1,12 @@
 #include "desktop/qt/fonts.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QResource>
 #include <QStringList>
 #include <utility>
+
+#include "desktop/qt/text.h"
 
 namespace desktop::qt {
 
@@ -32,5 +35,13 @@ QFont ToQt(const Font& font) {
   type.setUnderline(font.underline);
   return type;
 }
+
+double TypeMeasure::Advance(std::string_view text, const Font& font) const {
+  return QFontMetricsF(ToQt(font)).horizontalAdvance(Text(text));
+}
+
+double TypeMeasure::Height(const Font& font) const { return QFontMetricsF(ToQt(font)).height(); }
+
+double TypeMeasure::Spacing(const Font& font) const { return qCeil(QFontMetricsF(ToQt(font)).lineSpacing()); }
 
 }  // namespace desktop::qt

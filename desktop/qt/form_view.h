@@ -1,30 +1,27 @@
 // A form on the screen: a canvas for its images and labels, widgets for its controls.
 #pragma once
 
-#include <QRegion>
 #include <QWidget>
-#include <unordered_map>
-#include <vector>
+#include <map>
 
-#include "desktop/form.h"
+#include "desktop/common/delivery.h"
+#include "desktop/common/drawing.h"
+#include "desktop/common/views.h"
 #include "desktop/qt/control.h"
+#include "desktop/qt/fonts.h"
 #include "desktop/qt/picture_store.h"
 
 namespace desktop::qt {
 
-class Events;
-
-/// Follows the records of one form. What was drawn last is kept apart from what the records say, and
-/// only the difference of the two is drawn again.
-class FormView : public QWidget {
+class FormView : public QWidget, public common::View {
  public:
-  FormView(Form& form, Events& events, PictureStore& pictures, QWidget* parent);
+  FormView(Form& form, common::Delivery& delivery, PictureStore& pictures, QWidget* parent);
 
-  /// Brings the screen up to what the records say now.
-  void Follow();
-  /// Gives the keyboard to this form: to the control that had it last, or else to its default one.
-  void TakeKeyboard();
-  void SetFocus(const Element& control);
+  // --- common::View
+  void Follow() override;
+  void Raise() override { raise(); }
+  void TakeKeyboard() override;
+  void Retire() override;
 
   Form& form() const { return form_; }
 
@@ -34,35 +31,24 @@ class FormView : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// What an element looked like when it was drawn last.
-  struct Drawn {
-    Element record;
-    QRect painted;
-  };
-
   void DecodePictures();
-  void FollowElements();
-  void FollowOrder();
   void FollowControls();
+  void FollowPointer();
   void FollowDescription();
   Control& ControlOf(Element& element);
-  void PressOn(bool Element::*role);
-  bool ScrollsView(int key);
-  void PaintBorder(QPainter& painter) const;
   QPointF OnForm(const QMouseEvent& event) const;
-  /// `area` in the layout's pixels, widened where device pixels straddle it.
-  void Damage(const QRect& area);
+  bool TakeKey(QKeyEvent& event);
 
   Form& form_;
-  Events& events_;
+  common::Delivery& delivery_;
   PictureStore& pictures_;
-  std::unordered_map<const Element*, Drawn> drawn_;
-  std::vector<Element*> order_;
-  std::unordered_map<const Element*, Control*> controls_;
+  TypeMeasure type_;
+  common::Drawing drawing_{form_, type_};
+  std::map<const Element*, Control*> controls_;
   PointerShape shape_ = PointerShape::Default;
   QString description_;
 };

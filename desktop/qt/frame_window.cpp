@@ -5,14 +5,11 @@
 #include <QIcon>
 #include <QScreen>
 #include <QWindow>
-#include <algorithm>
 #include <utility>
 
-#include "desktop/qt/element_painter.h"
-#include "desktop/qt/events.h"
+#include "desktop/qt/canvas.h"
 #include "desktop/qt/light_palette.h"
 #include "desktop/qt/text.h"
-#include "desktop/units.h"
 
 namespace desktop::qt {
 
@@ -24,17 +21,9 @@ using namespace std::chrono_literals;
 // another to carry out a resize.
 constexpr auto kBeforeSnap = 80ms;
 constexpr auto kBeforeSecondLook = 150ms;
-constexpr int kMostRefusals = 2;
 
-// Half-maximised windows have no state of their own; they are told by a side this near to the work
-// area's, in pixels.
-constexpr int kTiledMargin = 64;
-
-// With a step beyond any screen a window manager has no other size to offer to a border drag.
-constexpr QSize kNoOtherSize(4000, 4000);
-
-/// A place of the frame in pixels. No window system places a window beyond 16 bits.
-int OnScreen(float twips) { return qRound(std::clamp(twips / kTwipsPerPixel, -32768.F, 32767.F)); }
+common::Size FromQt(QSize size) { return {size.width(), size.height()}; }
+QSize ToQt(common::Size size) { return {size.width, size.height}; }
 
 QIcon LoadIcon(std::string_view stem) {
   QIcon icon;
@@ -46,22 +35,18 @@ QIcon LoadIcon(std::string_view stem) {
 
 }  // namespace
 
-FrameWindow::FrameWindow(Frame& frame, Events& events)
-    : frame_(frame), events_(events), menu_(new QMenuBar(this)), area_(new QWidget(this)) {
+FrameWindow::FrameWindow(Frame& frame, common::Delivery& delivery)
+    : frame_(frame), delivery_(delivery), menu_(new QMenuBar(this)), area_(new QWidget(this)) {
   menu_->setNativeMenuBar(false);
-  MakeMenu();
+  for (const MenuEntry& entry : frame_.Menu) AddEntry(*menu_, entry);
   QPalette ground = LightPalette();
-  ground.setColor(QPalette::Window, ToQt(frame.BackColor));
+  ground.setColor(QPalette::Window, qt::ToQt(frame.BackColor));
   area_->setPalette(ground);
   area_->setAutoFillBackground(true);
   setWindowTitle(QString::fromStdString(frame.Caption));
   setWindowIcon(LoadIcon(frame.Icon));
-  snapBack_.setSingleShot(true);
-  connect(&snapBack_, &QTimer::timeout, this, &FrameWindow::SnapBack);
-}
-
-void FrameWindow::MakeMenu() {
-  for (const MenuEntry& entry : frame_.Menu) AddEntry(*menu_, entry);
+  snapTimer_.setSingleShot(true);
+  connect(&snapTimer_, &QTimer::timeout, this, &FrameWindow::SnapBack);
 }
 
 void FrameWindow::AddEntry(QWidget& menu, const MenuEntry& entry) {
@@ -70,35 +55,51 @@ void FrameWindow::AddEntry(QWidget& menu, const MenuEntry& entry) {
   if (!entry.Entries.empty()) {
     auto* submenu = new QMenu(caption, &menu);
     menu.addAction(submenu->menuAction());
-    // An open menu takes the mouse; the release of what was held would never arrive.
-    connect(submenu, &QMenu::aboutToShow, this, [this] { events_.Deliver([this] { events_.pointer().Lose(); }); });
+    connect(submenu, &QMenu::aboutToShow, this, [this] { delivery_.OpenMenu(); });
     for (const MenuEntry& inner : entry.Entries) AddEntry(*submenu, inner);
     return;
   }
   auto* action = new QAction(caption, &menu);
   menu.addAction(action);
-  connect(action, &QAction::triggered, this, [this, name = entry.Name] {
-    events_.Deliver([&] {
-      events_.pointer().Lose();
-      frame_.MenuClick(name);
-    });
-  });
+  connect(action, &QAction::triggered, this, [this, name = entry.Name] { delivery_.ChooseMenu(name); });
 }
 
-QSize FrameWindow::FixedSize() const {
+common::Size FrameWindow::FixedSize() const {
   return {frame_.ClientWidth, frame_.ClientHeight + menu_->heightForWidth(frame_.ClientWidth)};
+}
+
+common::WindowLook FrameWindow::Look() const {
+  // The window tells the truth; the widget may only believe that it has been resized.
+  return {.shown = isVisible(),
+          .minimised = isMinimized(),
+          .maximised = isMaximized() || isFullScreen(),
+          .size = FromQt(windowHandle()->size())};
 }
 
 void FrameWindow::Appear() {
   frame_.HasPlace = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-  move(OnScreen(frame_.Left), OnScreen(frame_.Top));
-  resize(FixedSize());
-  setMinimumSize(FixedSize());
+  move(common::OnScreen(frame_.Left), common::OnScreen(frame_.Top));
+  menuHeight_ = menu_->heightForWidth(frame_.ClientWidth);
+  resize(ToQt(FixedSize()));
+  setMinimumSize(ToQt(FixedSize()));
   winId();
-  windowHandle()->setBaseSize(FixedSize());
-  windowHandle()->setSizeIncrement(kNoOtherSize);
   windowHandle()->installEventFilter(this);
   show();
+}
+
+bool FrameWindow::event(QEvent* event) {
+  // The user's font or style has changed while the game runs.
+  if (event->type() == QEvent::LayoutRequest) NoteMenuHeight();
+  return QWidget::event(event);
+}
+
+void FrameWindow::NoteMenuHeight() {
+  const int height = menu_->heightForWidth(frame_.ClientWidth);
+  if (height == menuHeight_ || !windowHandle()) return;
+  const bool wasFixed = Look().size.height == frame_.ClientHeight + std::exchange(menuHeight_, height);
+  setMinimumSize(ToQt(FixedSize()));
+  if (wasFixed) resize(ToQt(FixedSize()));
+  LayOut();
 }
 
 bool FrameWindow::eventFilter(QObject*, QEvent* event) {
@@ -107,10 +108,14 @@ bool FrameWindow::eventFilter(QObject*, QEvent* event) {
   return false;
 }
 
-void FrameWindow::resizeEvent(QResizeEvent*) {
+void FrameWindow::LayOut() {
   const int menuHeight = menu_->heightForWidth(width());
   menu_->setGeometry(0, 0, width(), menuHeight);
   area_->setGeometry(0, menuHeight, width(), height() - menuHeight);
+}
+
+void FrameWindow::resizeEvent(QResizeEvent*) {
+  LayOut();
   Fit();
 }
 
@@ -121,62 +126,37 @@ void FrameWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange) Fit();
 }
 
-void FrameWindow::hideEvent(QHideEvent*) {
-  events_.Deliver([this] { events_.pointer().Lose(); });
-}
+void FrameWindow::hideEvent(QHideEvent*) { delivery_.Hide(); }
 
 void FrameWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  NoteState();
+  frame_.State = common::StateOf(Look(), FixedSize());
   NotePlace();
-  events_.Deliver([this] { frame_.Close(); });
-}
-
-void FrameWindow::NoteState() {
-  if (isMinimized())
-    frame_.State = WindowState::Minimised;
-  else if (isMaximized() || isFullScreen())
-    frame_.State = WindowState::Maximised;
-  else
-    frame_.State = WindowState::Normal;
+  delivery_.Close();
 }
 
 void FrameWindow::NotePlace() {
-  if (!isVisible() || isMaximized() || isMinimized() || isFullScreen()) return;
-  // A tiling window manager's place is not one that the player has chosen.
-  if (windowHandle()->size() != FixedSize()) return;
+  if (!windowHandle() || !common::IsPlayersOwn(Look(), FixedSize())) return;
   const QPoint corner = frameGeometry().topLeft();
-  frame_.Left = static_cast<float>(corner.x() * kTwipsPerPixel);
-  frame_.Top = static_cast<float>(corner.y() * kTwipsPerPixel);
+  frame_.Left = common::InTwips(corner.x());
+  frame_.Top = common::InTwips(corner.y());
 }
 
 void FrameWindow::Fit() {
-  NoteState();
-  events_.Deliver([this] {
-    if (frame_.State == WindowState::Minimised) events_.pointer().Lose();
-    frame_.Resize();
-  });
-  // What answers the window's own wish is no new event from outside.
-  if (!snapping_) refusals_ = 0;
-  snapBack_.start(kBeforeSnap);
-}
-
-bool FrameWindow::IsTiled() const {
-  const QSize room = screen()->availableSize();
-  const QSize size = windowHandle()->size();
-  return qAbs(room.width() - size.width()) < kTiledMargin || qAbs(room.height() - size.height()) < kTiledMargin;
+  if (!windowHandle()) return;
+  delivery_.Resize(common::StateOf(Look(), FixedSize()));
+  snapBack_.NoteChange();
+  snapTimer_.start(kBeforeSnap);
 }
 
 void FrameWindow::SnapBack() {
-  NoteState();
-  const bool fits = windowHandle()->size() == FixedSize();
-  snapping_ = frame_.State == WindowState::Normal && !IsTiled() && !fits && refusals_ < kMostRefusals;
-  if (!snapping_) return;
-  ++refusals_;
-  resize(FixedSize());
+  if (!snapBack_.Wishes(Look(), FixedSize(), FromQt(screen()->availableSize()))) return;
+  resize(ToQt(FixedSize()));
   // Where the widget believes that it has the size already, only the window can be told.
-  windowHandle()->resize(FixedSize());
-  snapBack_.start(kBeforeSecondLook);
+  windowHandle()->resize(ToQt(FixedSize()));
+  // A drag of the upper or left border has moved it, too.
+  move(common::OnScreen(frame_.Left), common::OnScreen(frame_.Top));
+  snapTimer_.start(kBeforeSecondLook);
 }
 
 }  // namespace desktop::qt

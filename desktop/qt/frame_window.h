@@ -6,17 +6,17 @@
 #include <QWidget>
 #include <functional>
 
+#include "desktop/common/delivery.h"
+#include "desktop/common/snap_back.h"
 #include "desktop/frame.h"
 
 namespace desktop::qt {
-
-class Events;
 
 /// Keeps itself at its fixed size in the normal state without taking away maximise, and without
 /// quarrelling with a window manager that insists on another size.
 class FrameWindow : public QWidget {
  public:
-  FrameWindow(Frame& frame, Events& events);
+  FrameWindow(Frame& frame, common::Delivery& delivery);
 
   /// Appears at the frame's place and size.
   void Appear();
@@ -26,6 +26,7 @@ class FrameWindow : public QWidget {
   QWidget& area() { return *area_; }
 
  protected:
+  bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
@@ -34,22 +35,22 @@ class FrameWindow : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void MakeMenu();
   void AddEntry(QWidget& menu, const MenuEntry& entry);
-  QSize FixedSize() const;
-  void NoteState();
+  void LayOut();
+  void NoteMenuHeight();
+  common::Size FixedSize() const;
+  common::WindowLook Look() const;
   void NotePlace();
   void Fit();
   void SnapBack();
-  bool IsTiled() const;
 
   Frame& frame_;
-  Events& events_;
+  common::Delivery& delivery_;
   QMenuBar* menu_;
   QWidget* area_;
-  QTimer snapBack_;
-  bool snapping_ = false;  ///< a resize of its own has been asked for and not yet looked at
-  int refusals_ = 0;
+  common::SnapBack snapBack_;
+  QTimer snapTimer_;
+  int menuHeight_ = 0;
   std::function<void()> whenSeen_;
 };
 

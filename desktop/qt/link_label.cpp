@@ -1,10 +1,8 @@
 #include "desktop/qt/link_label.h"
 
 #include <QAccessibleWidget>
-#include <QPainter>
 
-#include "desktop/qt/element_painter.h"
-#include "desktop/qt/fonts.h"
+#include "desktop/qt/canvas.h"
 #include "desktop/qt/text.h"
 
 namespace desktop::qt {
@@ -18,24 +16,21 @@ QAccessibleInterface* LinkInterface(const QString& className, QObject* object) {
 
 }  // namespace
 
-LinkLabel::LinkLabel(QWidget* parent) : QAbstractButton(parent) {
+LinkLabel::LinkLabel(PictureStore& pictures, QWidget* parent) : QAbstractButton(parent), pictures_(pictures) {
   QAccessible::installFactory(LinkInterface);
-  setFocusPolicy(Qt::NoFocus);
   setCursor(Qt::PointingHandCursor);
 }
 
 void LinkLabel::Follow(const Element& record) {
   if (record == record_) return;
   record_ = record;
-  setAccessibleName(Lines(record.Caption));
+  setAccessibleName(WithoutReturns(record.Caption));
   update();
 }
 
 void LinkLabel::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  painter.setFont(ToQt(record_.Font));
-  painter.setPen(ToQt(record_.ForeColor));
-  painter.drawText(rect(), Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip, Lines(record_.Caption));
+  QtCanvas canvas(*this, pictures_);
+  common::PaintLink(canvas, record_);
 }
 
 }  // namespace desktop::qt

@@ -10,7 +10,7 @@ namespace desktop::qt {
 class LinkLabel : public QAbstractButton, public Control {
   Q_OBJECT  // a screen reader's interface is looked up by the class's name
 
-      public : explicit LinkLabel(QWidget* parent);
+      public : LinkLabel(PictureStore& pictures, QWidget* parent);
 
   QWidget& widget() override { return *this; }
   void Follow(const Element& record) override;
@@ -19,6 +19,7 @@ class LinkLabel : public QAbstractButton, public Control {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  PictureStore& pictures_;
   Element record_;
 };
 

@@ -1,39 +1,43 @@
 #include "desktop/qt/picture_store.h"
 
+#include <QFile>
 #include <QImage>
-#include <QPixmapCache>
 
+#include "desktop/common/scale.h"
 #include "desktop/qt/text.h"
 
 namespace desktop::qt {
 
 namespace {
 
-QImage Load(const Picture& picture, bool twice) {
-  QImage image(
-      QStringLiteral(":/pictures/%1%2.png").arg(Text(picture.name), twice ? QStringLiteral("@2x") : QString()));
-  Q_ASSERT(!image.isNull());
+QString FileName(const Picture& picture, double scale) {
+  const QString suffix = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
+  return QStringLiteral(":/pictures/%1%2.png").arg(Text(picture.name), suffix);
+}
+
+QImage Load(const Picture& picture, common::Size size) {
+  const auto isCarried = [&](double scale) { return QFile::exists(FileName(picture, scale)); };
+  const QString name = FileName(picture, common::CarriedScale(picture.width, size.width, isCarried));
+  QImage image(name);
+  if (image.isNull()) {
+    qCritical("%s does not load", qUtf8Printable(name));
+    image = QImage(size.width, size.height, QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+  }
   image.setDevicePixelRatio(1);
-  return image;
+  // In an indexed format it would come back from scaling in the few colours of a cube.
+  return std::move(image).convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                                  : QImage::Format_RGB32);
 }
 
 }  // namespace
 
-// The toolkit's own store of pixmaps would wake an idle program half a minute later, to look through itself.
-PictureStore::PictureStore() { QPixmapCache::setCacheLimit(0); }
-
-const QPixmap& PictureStore::At(const Picture& picture, double ratio) {
-  return Sized(picture,
-               {Device(static_cast<float>(picture.width), ratio), Device(static_cast<float>(picture.height), ratio)});
-}
-
-const QPixmap& PictureStore::Stretched(const Picture& picture, QSize size) { return Sized(picture, size); }
-
-const QPixmap& PictureStore::Sized(const Picture& picture, QSize size) {
-  const auto [at, fresh] = pixmaps_.try_emplace({&picture, size.width(), size.height()});
+const QPixmap& PictureStore::Sized(const Picture& picture, common::Size size) {
+  const auto [at, fresh] = pixmaps_.try_emplace({&picture, size.width, size.height});
   if (!fresh) return at->second;
-  QImage image = Load(picture, size.width() > picture.width);
-  if (image.size() != size) image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  QImage image = Load(picture, size);
+  const QSize wanted(size.width, size.height);
+  if (image.size() != wanted) image = image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   at->second = QPixmap::fromImage(std::move(image));
   return at->second;
 }

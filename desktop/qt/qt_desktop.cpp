@@ -2,105 +2,47 @@
 
 #include <QDesktopServices>
 #include <QGuiApplication>
+#include <QPixmapCache>
 #include <QScreen>
-#include <QTimer>
 #include <QUrl>
-#include <algorithm>
-#include <chrono>
-#include <cmath>
 #include <cstdlib>
-#include <random>
-#include <utility>
 
+#include "desktop/qt/event_loop_rest.h"
+#include "desktop/qt/form_view.h"
 #include "desktop/qt/question_box.h"
 #include "desktop/qt/text.h"
-#include "desktop/units.h"
 
 namespace desktop::qt {
 
-void ChoosePlatform() {
+void PrepareToolkit() {
 #ifdef Q_OS_LINUX
+  // The window system that tells a window its place, where there are two and the user has not chosen.
   if (!qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
     qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 #endif
+  // The toolkit's own store of pixmaps would wake an idle program half a minute later, to look through itself.
+  QPixmapCache::setCacheLimit(0);
 }
 
 void QtDesktop::ShowFrame(Frame& frame) {
-  frame_ = &frame;
-  pointer_.emplace(frame);
-  window_ = std::make_unique<FrameWindow>(frame, static_cast<Events&>(*this));
-  window_->WhenSeen([this] {
-    seen_ = true;
-    if (opening_) sound_.Play(*opening_);
-  });
+  delivery_.emplace(frame, static_cast<common::Screen&>(*this), waits_);
+  window_ = std::make_unique<FrameWindow>(frame, *delivery_);
+  views_.emplace(frame, [this](Form& form) { return new FormView(form, *delivery_, pictures_, &window_->area()); });
+  window_->WhenSeen([this] { sound_.Begin(); });
   window_->Appear();
-}
-
-void QtDesktop::Deliver(const std::function<void()>& handler) {
-  handler();
-  Follow();
-  if (wait_) wait_->quit();
-}
-
-void QtDesktop::Follow() {
-  DropUnloaded();
-  for (Form* form : frame_->Children()) {
-    FormView*& view = views_[form];
-    if (!view) view = new FormView(*form, *this, pictures_, &window_->area());
-    view->Follow();
-  }
-  FollowOrder();
-}
-
-void QtDesktop::DropUnloaded() {
-  std::erase_if(views_, [this](const auto& entry) {
-    const auto& children = frame_->Children();
-    if (std::ranges::find(children, entry.first) != children.end()) return false;
-    // Its own handler may be what unloaded it.
-    entry.second->hide();
-    entry.second->deleteLater();
-    return true;
-  });
-}
-
-void QtDesktop::FollowOrder() {
-  if (order_ == frame_->Children()) return;
-  order_ = frame_->Children();
-  for (Form* form : order_) views_[form]->raise();
-  if (!order_.empty()) views_[order_.back()]->TakeKeyboard();
-}
-
-void QtDesktop::SetFocus(Form& form, Element& control) {
-  Follow();
-  views_[&form]->SetFocus(control);
-}
-
-double QtDesktop::Clock() const {
-  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
 void QtDesktop::RunEventsUntil(double moment) {
   Follow();
   const double left = moment - Clock();
   if (left <= 0) return;
-  QEventLoop loop;
-  QTimer::singleShot(std::chrono::milliseconds(std::lround(std::ceil(left * 1000))), Qt::PreciseTimer, &loop,
-                     &QEventLoop::quit);
-  QEventLoop* const outer = std::exchange(wait_, &loop);
-  loop.exec();
-  wait_ = outer;
-}
-
-void QtDesktop::Randomize() {
-  std::random_device entropy;
-  const auto ticks = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
-  chance_.Seed(ticks ^ (static_cast<std::uint64_t>(entropy()) << 32) ^ entropy());
+  EventLoopRest rest(left);
+  waits_.Run(rest);
 }
 
 bool QtDesktop::AskYesNo(std::string_view text, std::string_view title) {
-  pointer_->Lose();
-  Follow();
-  return QuestionBox(Text(title), Lines(text), window_.get()).Ask();
+  delivery_->PrepareQuestion();
+  return QuestionBox(Text(title), WithoutReturns(text), window_.get()).Ask();
 }
 
 std::string QtDesktop::ReadSetting(std::string_view application, std::string_view section, std::string_view key,
@@ -113,18 +55,12 @@ void QtDesktop::SaveSetting(std::string_view application, std::string_view secti
   settings_.Save(application, section, key, text);
 }
 
-void QtDesktop::PlayWave(const WaveImage& image) {
-  // To load the sound library beside it would hold up the first picture.
-  if (seen_)
-    sound_.Play(image);
-  else
-    opening_ = image;
-}
-
 Area QtDesktop::WorkArea() const {
-  const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-  const auto twips = [](int pixels) { return static_cast<float>(pixels * kTwipsPerPixel); };
-  return {twips(room.left()), twips(room.top()), twips(room.width()), twips(room.height())};
+  // Of any size, where no screen is connected just now.
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QRect room = screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+  return {common::InTwips(room.left()), common::InTwips(room.top()), common::InTwips(room.width()),
+          common::InTwips(room.height())};
 }
 
 void QtDesktop::OpenMail(std::string_view address) { QDesktopServices::openUrl(QUrl("mailto:" + Text(address))); }

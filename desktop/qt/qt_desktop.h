@@ -1,44 +1,42 @@
 // The real desktop, on Qt.
 #pragma once
 
-#include <QEventLoop>
-#include <map>
 #include <memory>
 #include <optional>
-#include <vector>
 
-#include "desktop/chance.h"
+#include "desktop/common/chance.h"
+#include "desktop/common/clock.h"
+#include "desktop/common/delivery.h"
+#include "desktop/common/views.h"
+#include "desktop/common/waits.h"
 #include "desktop/desktop.h"
-#include "desktop/qt/events.h"
-#include "desktop/qt/form_view.h"
 #include "desktop/qt/frame_window.h"
+#include "desktop/qt/opening_sound.h"
 #include "desktop/qt/picture_store.h"
 #include "desktop/qt/settings_store.h"
-#include "desktop/qt/sound_player.h"
 
 namespace desktop::qt {
 
-/// Prefers the window system that tells a window its place, where there are two and the user has
-/// not chosen. Before the QApplication is made.
-void ChoosePlatform();
+/// Settings of the toolkit for the whole process. Before the QApplication is made.
+void PrepareToolkit();
 
 /// Needs a QApplication that lives as long.
-class QtDesktop : public Desktop, private Events {
+class QtDesktop : public Desktop, private common::Screen {
  public:
   // --- Desktop
   void ShowFrame(Frame& frame) override;
-  void SetFocus(Form& form, Element& control) override;
-  void ReleaseMouse() override { pointer_->Lose(); }
-  double Clock() const override;
+  void SetFocus(Form& form, Element& control) override { delivery_->SetFocus(form, control); }
+  void ReleaseMouse() override { delivery_->ReleaseMouse(); }
+  double Clock() const override { return common::SteadySeconds(); }
   void RunEventsUntil(double moment) override;
-  void Randomize() override;
+  void Randomize() override { chance_.Randomize(); }
   float Random() override { return chance_.Next(); }
   bool AskYesNo(std::string_view text, std::string_view title) override;
   std::string ReadSetting(std::string_view application, std::string_view section, std::string_view key,
                           std::string_view fallback) override;
   void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                    std::string_view text) override;
-  void PlayWave(const WaveImage& image) override;
+  void PlayWave(const WaveImage& image) override { sound_.Play(image); }
   Area WorkArea() const override;
   void OpenMail(std::string_view address) override;
   void OpenPage(std::string_view address) override;
@@ -48,28 +46,17 @@ class QtDesktop : public Desktop, private Events {
   FrameWindow& window() { return *window_; }
 
  private:
-  // --- Events
-  void Deliver(const std::function<void()>& handler) override;
-  Pointer& pointer() override { return *pointer_; }
-  Frame& frame() override { return *frame_; }
+  // --- common::Screen
+  void Follow() override { views_->Follow(); }
 
-  /// Brings the screen up to what the records say.
-  void Follow();
-  void DropUnloaded();
-  void FollowOrder();
-
-  Frame* frame_ = nullptr;
-  std::optional<Pointer> pointer_;
-  Chance chance_;
+  common::Waits waits_;
+  common::Chance chance_;
   SettingsStore settings_;
   PictureStore pictures_;
-  SoundPlayer sound_;
-  bool seen_ = false;                 ///< the window's first picture is on the screen
-  std::optional<WaveImage> opening_;  ///< to be played then
+  OpeningSound sound_;
+  std::optional<common::Delivery> delivery_;
   std::unique_ptr<FrameWindow> window_;
-  std::map<Form*, FormView*> views_;
-  std::vector<Form*> order_;
-  QEventLoop* wait_ = nullptr;  ///< the innermost wait's
+  std::optional<common::Views> views_;
 };
 
 }  // namespace desktop::qt

@@ -10,7 +10,7 @@ inline QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// A text of several lines: the rules end a line as the layout's platform does, Qt with a line feed.
-inline QString Lines(std::string_view text) { return Text(text).remove(u'\r'); }
+/// The rules end a line with a carriage return and a line feed, Qt with the latter alone.
+inline QString WithoutReturns(std::string_view text) { return Text(text).remove(u'\r'); }
 
 }  // namespace desktop::qt

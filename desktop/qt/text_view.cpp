@@ -1,5 +1,6 @@
 #include "desktop/qt/text_view.h"
 
+#include <QScrollBar>
 #include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -8,8 +9,8 @@
 #include <QUrl>
 #include <cmath>
 
-#include "desktop/qt/element_painter.h"
-#include "desktop/qt/fonts.h"
+#include "desktop/common/scale.h"
+#include "desktop/qt/canvas.h"
 #include "desktop/qt/text.h"
 
 namespace desktop::qt {
@@ -43,7 +44,9 @@ QTextCharFormat Format(const TextStyle& style) {
 
 TextView::TextView(PictureStore& pictures, QWidget* parent) : QTextEdit(parent), pictures_(pictures) {
   setReadOnly(true);
-  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setTextInteractionFlags(Qt::TextSelectableByMouse);
+  // Which control has the keyboard stands in the records.
+  setFocusPolicy(Qt::NoFocus);
   setFrameShape(QFrame::NoFrame);
   QPalette colours = palette();
   colours.setColor(QPalette::Base, Ground());
@@ -54,13 +57,46 @@ void TextView::Follow(const Element& record) {
   if (record.Text == shown_ || !record.Text) return;
   shown_ = record.Text;
   setAccessibleName(Text(record.AccessibleName));
-  Write(*shown_);
+  LoadPictures();
+  Write();
 }
 
-void TextView::Write(const Document& text) {
+void TextView::ScrollBy(common::Scroll scroll) {
+  using common::Scroll;
+  struct Step {
+    Scroll scroll;
+    QAbstractSlider::SliderAction action;
+  };
+  constexpr Step kSteps[] = {
+      {Scroll::LineUp, QAbstractSlider::SliderSingleStepSub}, {Scroll::LineDown, QAbstractSlider::SliderSingleStepAdd},
+      {Scroll::PageUp, QAbstractSlider::SliderPageStepSub},   {Scroll::PageDown, QAbstractSlider::SliderPageStepAdd},
+      {Scroll::ToStart, QAbstractSlider::SliderToMinimum},    {Scroll::ToEnd, QAbstractSlider::SliderToMaximum}};
+  for (const auto& [step, action] : kSteps)
+    if (step == scroll) verticalScrollBar()->triggerAction(action);
+}
+
+void TextView::paintEvent(QPaintEvent* event) {
+  // The window may have come to a screen of another density.
+  if (shown_ && ratio_ != devicePixelRatioF()) LoadPictures();
+  QTextEdit::paintEvent(event);
+}
+
+void TextView::LoadPictures() {
+  ratio_ = devicePixelRatioF();
+  const common::Scale scale(ratio_);
+  for (const Paragraph& paragraph : shown_->Paragraphs)
+    for (const Run& run : paragraph.Runs) {
+      if (!run.Picture) continue;
+      QPixmap pixmap = pictures_.Sized(*run.Picture, scale.Device(*run.Picture));
+      pixmap.setDevicePixelRatio(ratio_);
+      document()->addResource(QTextDocument::ImageResource, QUrl(Text(run.Picture->name)), pixmap);
+    }
+}
+
+void TextView::Write() {
   QTextCursor cursor(document());
   bool first = true;
-  for (const Paragraph& paragraph : text.Paragraphs) {
+  for (const Paragraph& paragraph : shown_->Paragraphs) {
     QTextBlockFormat block;
     block.setAlignment(paragraph.Alignment == Align::Centre ? Qt::AlignHCenter : Qt::AlignLeft);
     if (first)
@@ -78,19 +114,14 @@ void TextView::Write(const Document& text) {
     }
   }
   QTextOption option = document()->defaultTextOption();
-  option.setTabStopDistance(text.TabDistance);
+  option.setTabStopDistance(shown_->TabDistance);
   document()->setDefaultTextOption(option);
   moveCursor(QTextCursor::Start);
 }
 
 void TextView::WritePicture(QTextCursor& cursor, const Run& run) {
-  const double ratio = devicePixelRatioF();
-  QPixmap pixmap = pictures_.At(*run.Picture, ratio);
-  pixmap.setDevicePixelRatio(ratio);
-  const QString name = Text(run.Picture->name);
-  document()->addResource(QTextDocument::ImageResource, QUrl(name), pixmap);
   QTextImageFormat format;
-  format.setName(name);
+  format.setName(Text(run.Picture->name));
   format.setWidth(run.Picture->width);
   format.setHeight(run.Picture->height);
   format.setToolTip(QString::fromStdString(run.Meaning));

@@ -3,6 +3,7 @@
 
 #include <QTextEdit>
 
+#include "desktop/common/keyboard.h"
 #include "desktop/qt/control.h"
 
 namespace desktop::qt {
@@ -13,13 +14,19 @@ class TextView : public QTextEdit, public Control {
 
   QWidget& widget() override { return *this; }
   void Follow(const Element& record) override;
+  void ScrollBy(common::Scroll scroll);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 
  private:
-  void Write(const Document& text);
+  void Write();
+  void LoadPictures();
   void WritePicture(class QTextCursor& cursor, const Run& run);
 
   PictureStore& pictures_;
   const Document* shown_ = nullptr;
+  double ratio_ = 0;  ///< of the screen that the pictures were made for
 };
 
 }  // namespace desktop::qt

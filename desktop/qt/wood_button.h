@@ -16,13 +16,8 @@ class WoodButton : public QPushButton, public Control {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void PaintFace(QPainter& painter, const QRect& face);
-  void PaintEdges(QPainter& painter) const;
-  void PaintCaption(QPainter& painter) const;
-
   PictureStore& pictures_;
   Element record_;
 };

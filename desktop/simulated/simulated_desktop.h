@@ -5,15 +5,17 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "desktop/chance.h"
+#include "desktop/common/chance.h"
+#include "desktop/common/delivery.h"
+#include "desktop/common/waits.h"
 #include "desktop/desktop.h"
-#include "desktop/pointer.h"
 
-namespace simulated {
+namespace desktop::simulated {
 
 /// Thrown where a real process would end; unwinds every wait, however nested.
 struct ProcessEnded {};
@@ -27,15 +29,15 @@ struct Happening {
   bool operator==(const Happening&) const = default;
 };
 
-class Desktop : public desktop::Desktop {
+class SimulatedDesktop : public Desktop, private common::Screen {
  public:
-  explicit Desktop(Store& store) : store_(store) {}
+  explicit SimulatedDesktop(Store& store) : store_(store) {}
 
   // --- What a test prepares.
 
   std::deque<float> chance;  ///< dealt first; then a generator goes on
   std::deque<bool> answers;  ///< taken one a question; a question without one is a logic_error
-  desktop::Area workArea{0, 0, 19200, 12000};
+  Area workArea{0, 0, 19200, 12000};
   /// Runs after each event and before each rest.
   std::function<void()> afterEvent = [] {};
   /// Runs while a question is open, before its answer.
@@ -50,20 +52,21 @@ class Desktop : public desktop::Desktop {
 
   // --- What a player does. Points are pixels in the frame's client area.
 
-  void Press(float x, float y, int button = desktop::kLeftButton);
+  void Press(float x, float y, int button = kLeftButton);
   void Move(float x, float y);
-  void Release(float x, float y, int button = desktop::kLeftButton);
+  void Release(float x, float y, int button = kLeftButton);
   void ClickAt(float x, float y);
   /// Press, one move, release.
   void Drag(float fromX, float fromY, float toX, float toY);
   /// The platform takes the mouse away.
   void LoseMouse();
   void Menu(std::string_view name);
-  void Enter();
-  void Escape();
-  void Space();
-  void Tab();
-  void SetState(desktop::WindowState state);
+  void PressKey(common::Key key, bool held = false);
+  void Enter() { PressKey(common::Key::Enter); }
+  void Escape() { PressKey(common::Key::Escape); }
+  void Space() { PressKey(common::Key::Space); }
+  void Tab() { PressKey(common::Key::Tab); }
+  void SetState(WindowState state);
   void CloseFrame();
 
   /// Lets the clock run idly, events arriving meanwhile.
@@ -79,18 +82,19 @@ class Desktop : public desktop::Desktop {
   std::vector<std::string> opened;  ///< addresses of mail and pages, in order
   int drawn = 0;                    ///< random numbers asked for
   int seeded = 0;                   ///< calls of Randomize
-  int waits = 0;                    ///< waits of handlers open now, one inside the other
   int rests = 0;                    ///< rests of waiting handlers; an event that comes in splits one in two
-  desktop::Element* focus = nullptr;
+  int waitsAtEnd = 0;               ///< waits that were open when the process ended
 
-  desktop::Frame& frame() const { return *frame_; }
+  /// Waits of handlers open now, one inside the other.
+  int Waits() const { return waits_.Depth(); }
+  Frame& frame() const { return *frame_; }
   /// The element that holds the mouse, or nullptr.
-  const desktop::Element* InHand() const { return pointer_->HeldOn() ? inHand_ : nullptr; }
+  const Element* InHand() const { return delivery_->Holder(); }
 
-  // --- desktop::Desktop
-  void ShowFrame(desktop::Frame& frame) override;
-  void SetFocus(desktop::Form& form, desktop::Element& control) override;
-  void ReleaseMouse() override { pointer_->Lose(); }
+  // --- Desktop
+  void ShowFrame(Frame& frame) override;
+  void SetFocus(Form& form, Element& control) override { delivery_->SetFocus(form, control); }
+  void ReleaseMouse() override { delivery_->ReleaseMouse(); }
   double Clock() const override { return clock_; }
   void RunEventsUntil(double moment) override;
   void Randomize() override { ++seeded; }
@@ -100,28 +104,31 @@ class Desktop : public desktop::Desktop {
                           std::string_view fallback) override;
   void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                    std::string_view text) override;
-  void PlayWave(const desktop::WaveImage& image) override;
-  desktop::Area WorkArea() const override { return workArea; }
+  void PlayWave(const WaveImage& image) override;
+  Area WorkArea() const override { return workArea; }
   void OpenMail(std::string_view address) override { opened.push_back("mailto:" + std::string(address)); }
   void OpenPage(std::string_view address) override { opened.emplace_back(address); }
-  void EndProcess() override { throw ProcessEnded{}; }
+  void EndProcess() override;
 
  private:
-  desktop::Form* FormAt(float x, float y) const;
-  void ClickControl(desktop::Element* control);
-  void PressKeyOf(bool desktop::Element::*role);
+  class RestOnClock;
+
+  // --- common::Screen
+  void Follow() override;
+
+  Form* FormAt(float x, float y) const;
   void RestUntil(double moment);
 
   Store& store_;
-  desktop::Chance generator_;
-  desktop::Frame* frame_ = nullptr;
-  std::optional<desktop::Pointer> pointer_;
-  const desktop::Element* inHand_ = nullptr;
-  desktop::Element* pressedControl_ = nullptr;
+  common::Chance generator_;
+  Frame* frame_ = nullptr;
+  common::Waits waits_;
+  std::optional<common::Delivery> delivery_;
+  Element* pressedControl_ = nullptr;
   int held_ = 0;
   double clock_ = 0;
   std::multimap<double, std::function<void()>> events_;
   std::multimap<int, std::function<void()>> inRest_;
 };
 
-}  // namespace simulated
+}  // namespace desktop::simulated

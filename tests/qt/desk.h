@@ -12,6 +12,7 @@
 #include <functional>
 #include <string>
 
+#include "desktop/qt/form_view.h"
 #include "desktop/qt/qt_desktop.h"
 #include "shell/frmMain.h"
 

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 
 #include "tests/qt/desk.h"
+#include "tests/qt/sheet.h"
 
 namespace {
 
@@ -16,6 +17,12 @@ class Drag : public AtTable {
  protected:
   Qt::CursorShape Shape() { return ViewOf(table)->cursor().shape(); }
   QPointF Corner(int piece) { return {table.Money[piece].Left, table.Money[piece].Top}; }
+  /// Between whole ratios the pointer stands at fractions of a pixel, which a piece does not follow.
+  void ExpectNear(QPointF place, QPointF wanted, int row) {
+    const QPointF off = place - wanted;
+    const double room = IsWhole() ? 0 : 1;
+    EXPECT_TRUE(qAbs(off.x()) <= room && qAbs(off.y()) <= room) << row << ": " << off.x() << ", " << off.y();
+  }
   std::string Total() { return table.Label3[3].Caption; }
   bool AllHome() {
     bool home = Total() == "£200" && Shape() == Qt::ArrowCursor;
@@ -33,19 +40,19 @@ class Drag : public AtTable {
 TEST_F(Drag, CarriesAPieceByThePixelItWasTakenAtToWhereThePointerIs) {
   // A piece, where it is gripped, where it is let go, whether a square takes it, and where it comes to lie.
   const std::tuple<int, QPoint, QPoint, bool, QPoint> rows[] = {
-      {12, {281, 289}, {300, 160}, true, {255, 159}},   {31, {327, 349}, {6, 156}, true, {6, 156}},
-      {49, {275, 371}, {105, 255}, true, {86, 228}},    {0, {185, 300}, {106, 255}, false, {184, 288}},
+      {12, {281, 289}, {300, 160}, true, {255, 159}},   {31, {327, 349}, {7, 157}, true, {6, 156}},
+      {49, {275, 371}, {105, 255}, true, {86, 228}},    {0, {185, 300}, {107, 255}, false, {184, 288}},
       {48, {249, 371}, {-20, -300}, false, {248, 352}}, {12, {300, 160}, {626, 200}, false, {280, 288}}};
   for (const auto& [piece, grip, to, taken, seat] : rows) {
     const QPointF offset = grip - Corner(piece);
     Press(table, grip);
     EXPECT_EQ(Shape(), Qt::ArrowCursor) << "not before a move";
     Move(table, to);
-    EXPECT_EQ(Corner(piece), to - offset) << to.x();
+    ExpectNear(Corner(piece), to - offset, to.x());
     EXPECT_EQ(Shape(), taken ? Qt::ArrowCursor : Qt::ForbiddenCursor) << to.x();
     EXPECT_TRUE(IsFresh(table)) << to.x();
     Release(table, to);
-    EXPECT_EQ(Corner(piece), seat) << to.x();
+    ExpectNear(Corner(piece), seat, to.x());
     EXPECT_EQ(Shape(), Qt::ArrowCursor) << to.x();
   }
   EXPECT_EQ(table.Label1[0].Caption, "£6 Bet");

@@ -12,7 +12,7 @@ using Keyboard = OnDesk;
 
 TEST_F(Keyboard, EnterAndSpacePressTheButtonThatHasTheFocus) {
   for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-    Control(frame.Splash, "Instructions")->setFocus();
+    desktop.SetFocus(frame.Splash, frame.Splash.Instructions);
     Key(key);
     ASSERT_TRUE(frame.Help.Loaded) << key;
     EXPECT_EQ(Focus(), "Return");

@@ -1,6 +1,8 @@
 #include "tests/qt/sheet.h"
 
 #include <QGuiApplication>
+#include <array>
+#include <set>
 
 namespace on_screen {
 
@@ -17,22 +19,56 @@ QRect Device(const QRect& place) {
 QImage Carried(const QString& name) {
   const QImage single(":/pictures/" + name + ".png");
   if (Ratio() == 1) return single;
+  QImage own(QString(":/pictures/%1@%2x.png").arg(name).arg(Ratio()));
+  own.setDevicePixelRatio(1);
+  if (!own.isNull()) return own;
   QImage twice(":/pictures/" + name + "@2x.png");
   twice.setDevicePixelRatio(1);
+  twice.convertTo(QImage::Format_ARGB32_Premultiplied);  // an indexed one would come back in a few colours
   const QSize size(Device(single.width()), Device(single.height()));
   return twice.size() == size ? twice : twice.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+namespace {
+
+/// The mean of what a pixel of the smaller picture covers in the larger one.
+QColor Mean(const QImage& large, const QRectF& covered) {
+  std::array<double, 3> sum{};
+  double area = 0;
+  for (int y = qFloor(covered.top()); y < covered.bottom(); ++y)
+    for (int x = qFloor(covered.left()); x < covered.right(); ++x) {
+      const QRectF part = covered & QRectF(x, y, 1, 1);
+      const double weight = part.width() * part.height();
+      const QColor colour = large.pixelColor(x, y);
+      sum[0] += weight * colour.red();
+      sum[1] += weight * colour.green();
+      sum[2] += weight * colour.blue();
+      area += weight;
+    }
+  return QColor(qRound(sum[0] / area), qRound(sum[1] / area), qRound(sum[2] / area));
+}
+
+}  // namespace
+
 testing::AssertionResult IsWooden(const QImage& button) {
-  const QImage wood =
-      QImage(":/pictures/Wood.png").scaled(button.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  const QRect strip(Device(4), Device(5), Device(2), button.height() - 2 * Device(5));
-  if (IsWhole()) return Same(button.copy(strip), wood.copy(strip));
-  // There a widget may stand between two device pixels; only the tone can be told.
-  const auto hue = [&](const QImage& image) {
-    return image.copy(strip).scaled(1, 1, {}, Qt::SmoothTransformation).pixelColor(0, 0).hue();
-  };
-  return testing::AssertionResult(qAbs(hue(button) - hue(wood)) < 8) << " hue " << hue(button);
+  const QImage wood(Ratio() > 1 ? ":/pictures/Wood@2x.png" : ":/pictures/Wood.png");
+  const QSizeF step(1.0 * wood.width() / button.width(), 1.0 * wood.height() / button.height());
+  // Inside the edges, and left of the caption or above it.
+  const int edge = Device(5);
+  std::set<QRgb> colours;
+  for (int y = edge; y < button.height() - edge; ++y)
+    for (int x = edge; x < button.width() - edge; ++x) {
+      if (x >= edge + Device(2) && y >= edge + Device(2)) continue;
+      const QColor shown = button.pixelColor(x, y);
+      const QColor wanted = Mean(wood, {QPointF(x * step.width(), y * step.height()), step});
+      colours.insert(shown.rgb());
+      const auto near = [](int one, int other) { return qAbs(one - other) <= 10; };
+      const bool fits =
+          near(shown.red(), wanted.red()) && near(shown.green(), wanted.green()) && near(shown.blue(), wanted.blue());
+      // Between whole ratios a button may begin half a pixel beside its place.
+      if (!fits && IsWhole()) return testing::AssertionFailure() << "no wood at " << x << ", " << y;
+    }
+  return testing::AssertionResult(colours.size() > 100) << "only " << colours.size() << " colours";
 }
 
 Sheet::Sheet(QSize size, QRgb ground) : image_(Device(QRect({}, size)).size(), QImage::Format_RGB32) {

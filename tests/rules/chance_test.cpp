@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "desktop/chance.h"
+#include "desktop/common/chance.h"
 #include "tests/simulated/play.h"
 
 namespace {
@@ -44,11 +44,11 @@ TEST(Chance, NumbersStayBelowOneAndFollowTheSeed) {
   // The first draw of this seed begins with 25 ones, which a plain division would round up to 1.
   constexpr std::uint64_t kSeed = 3138459;
   ASSERT_EQ(std::mt19937_64(kSeed)() >> 39, 0x1FFFFFFU);
-  desktop::Chance chance(kSeed);
+  desktop::common::Chance chance(kSeed);
   EXPECT_EQ(chance.Next(), std::nextafter(1.0F, 0.0F));
-  EXPECT_NE(desktop::Chance(1).Next(), desktop::Chance(2).Next());
+  EXPECT_NE(desktop::common::Chance(1).Next(), desktop::common::Chance(2).Next());
   chance.Seed(1);
-  EXPECT_EQ(chance.Next(), desktop::Chance(1).Next());
+  EXPECT_EQ(chance.Next(), desktop::common::Chance(1).Next());
 }
 
 }  // namespace

@@ -57,7 +57,7 @@ TEST(Throw, EachDieRollsItsOwnWay) {
     DealDice(play, deal);
     play.desktop.afterEvent = [&] {
       const double now = play.desktop.Clock();
-      if (play.desktop.waits == 0) return;
+      if (play.desktop.Waits() == 0) return;
       const int tick = now < 2.9 ? 0 : static_cast<int>(std::lround((now - 2.92) / 0.05)) + 1;
       for (int die = 0; die < 3; ++die) {
         SCOPED_TRACE(testing::Message() << "die " << die << ", tick " << tick);

@@ -61,7 +61,7 @@ TEST(Money, GoneIsOfferedAgainWithoutLimit) {
   for (std::size_t refills = 1; refills <= 3; ++refills) {
     play.desktop.answers = {true};
     play.desktop.whileAsked = [&] {
-      EXPECT_EQ(play.desktop.sounds.back(), (simulated::Happening{play.desktop.Clock(), "PEOPLELAUGH"}));
+      EXPECT_EQ(play.desktop.sounds.back(), (desktop::simulated::Happening{play.desktop.Clock(), "PEOPLELAUGH"}));
       for (const auto& caption : play.table().Label1) EXPECT_EQ(caption.Caption, "");
       EXPECT_EQ(play.table().Label3[3].Caption, "£0");
     };

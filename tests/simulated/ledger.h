@@ -62,9 +62,9 @@ class Ledger {
       if (doomed_[n] && play_.IsHome(n)) pounds_ -= ValueOf(n);
     const std::int64_t missing = pounds_ - Found();
     // The first instruction stays on show during an exchange, whose piece is out of the piles.
-    const bool exchange = play_.desktop.waits > 0 && table.Instruction[0].Visible;
+    const bool exchange = play_.desktop.Waits() > 0 && table.Instruction[0].Visible;
     EXPECT_GE(missing, 0);
-    EXPECT_LE(missing, exchange ? 10 * play_.desktop.waits : 0) << "at " << play_.desktop.Clock();
+    EXPECT_LE(missing, exchange ? 10 * play_.desktop.Waits() : 0) << "at " << play_.desktop.Clock();
     Remember();
   }
 

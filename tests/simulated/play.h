@@ -10,6 +10,10 @@
 
 namespace simulated {
 
+using desktop::simulated::ProcessEnded;
+using desktop::simulated::SimulatedDesktop;
+using desktop::simulated::Store;
+
 /// Faces to deal: the float that makes RandomDice start a die on a group, and the one that makes
 /// ThrowDice turn it by one group or by two.
 float GroupDraw(int group);
@@ -69,7 +73,7 @@ class Play {
   thistle::frmGame& table() { return frame->Game; }
   thistle::Module1& money() { return frame->module1; }
 
-  Desktop desktop;
+  SimulatedDesktop desktop;
   std::unique_ptr<thistle::frmMain> frame;
   bool ended = false;
 };

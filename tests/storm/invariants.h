@@ -22,7 +22,7 @@ class Invariants {
   /// bets, until the next bet or throw.
   bool freeThrow = true;
 
-  bool Throwing() { return play_.desktop.waits > 0 && !table_.Instruction[0].Visible; }
+  bool Throwing() { return play_.desktop.Waits() > 0 && !table_.Instruction[0].Visible; }
 
   /// At any moment, in the middle of a wait too.
   void Always() {
@@ -108,7 +108,7 @@ class Invariants {
 
   void Throw() {
     freeThrow = false;
-    EXPECT_EQ(play_.desktop.waits, 1) << "a throw waits inside something, or something inside a throw";
+    EXPECT_EQ(play_.desktop.Waits(), 1) << "a throw waits inside something, or something inside a throw";
     EXPECT_FALSE(table_.CupStanding.Enabled || table_.Command1.Visible || table_.Instruction[1].Visible);
     EXPECT_TRUE(std::ranges::none_of(table_.Money, &Element::Enabled));
   }
@@ -120,7 +120,7 @@ class Invariants {
     EXPECT_TRUE(!hit || (hit->Visible && hit->Enabled)) << "a hidden or dead element is hit: " << hit->Name;
     // A piece in a pile shows a strip at its left, on which it can be taken.
     const bool inPile = probe.Name == "Money" && probe.Visible && play_.IsHome(probe.Index);
-    const bool open = play_.desktop.waits == 0 && !PieceInHand();
+    const bool open = play_.desktop.Waits() == 0 && !PieceInHand();
     EXPECT_TRUE(hit == &probe || !inPile || !open) << "covered: " << probe.Index;
   }
 

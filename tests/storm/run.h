@@ -82,7 +82,7 @@ class Run {
       if (play_.table().Loaded && play_.money().MoneyValue[3] == 0) ExpectNewGame();
     }
     Deliver(input, play_.desktop);
-    if (play_.desktop.waits == 0 && play_.table().Loaded && (!ledger_ || newGame_)) OpenLedger();
+    if (play_.desktop.Waits() == 0 && play_.table().Loaded && (!ledger_ || newGame_)) OpenLedger();
   }
 
   void Asked() {
@@ -102,7 +102,7 @@ class Run {
 
   /// During a wait it starts only when all that waits has come to its end.
   void ExpectNewGame() {
-    if (play_.desktop.waits > 0) ++tally_[invariants_.Throwing() ? "New Game in a throw" : "New Game in an exchange"];
+    if (play_.desktop.Waits() > 0) ++tally_[invariants_.Throwing() ? "New Game in a throw" : "New Game in an exchange"];
     newGame_ = true;
     invariants_.freeThrow = play_.table().CupStanding.Enabled;
   }
@@ -122,7 +122,7 @@ class Run {
   void Look() {
     if (play_.desktop.chance.empty()) Deal();
     if (!ledger_) return;
-    if (play_.desktop.waits > 1) ++tally_["wait in a wait"];
+    if (play_.desktop.Waits() > 1) ++tally_["wait in a wait"];
     if (invariants_.Throwing() && !thrown_) {
       ++tally_["throw"];
       thrown_ = {ledger_->pounds(), play_.table().BetValue};
@@ -132,7 +132,7 @@ class Run {
     BreakIfAnyFailed();
     if (newGame_) return;
     ledgerLooks_();
-    if (play_.desktop.waits == 0) {
+    if (play_.desktop.Waits() == 0) {
       invariants_.AtRest();
       CheckPaid();
     }
@@ -163,7 +163,7 @@ class Run {
   }
 
   void CheckStored() {
-    if (play_.desktop.waits > 0) ++tally_["end in a wait"];
+    if (play_.desktop.waitsAtEnd > 0) ++tally_["end in a wait"];
     for (int d = 0; d < 3; ++d) {
       const std::string count = std::to_string(play_.money().MoneyCount[d]);
       EXPECT_EQ(Stored(store_, d), play_.table().Loaded ? count : Stored(found_, d)) << d;

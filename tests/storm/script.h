@@ -63,16 +63,13 @@ inline Script ReadScript(const std::filesystem::path& file) {
 }
 
 /// Does to the run what the input says.
-inline void Deliver(const Input& input, simulated::Desktop& desktop) {
+inline void Deliver(const Input& input, simulated::SimulatedDesktop& desktop) {
   using enum desktop::WindowState;
   const std::string& which = input.which;
   const int button = which == "left"    ? desktop::kLeftButton
                      : which == "right" ? desktop::kRightButton
                                         : desktop::kMiddleButton;
-  // A second left press sends home what is in hand. The simulated desktop looks for the piece under
-  // the pointer before that, so it must not find the one that is about to go.
-  const bool leftAgain = input.what == "press" && which == "left" && desktop.InHand();
-  if (input.what == "lose" || leftAgain) desktop.LoseMouse();
+  if (input.what == "lose") desktop.LoseMouse();
   if (input.what == "press") desktop.Press(input.x, input.y, button);
   if (input.what == "move") desktop.Move(input.x, input.y);
   if (input.what == "release") desktop.Release(input.x, input.y, button);

@@ -3,7 +3,7 @@
 
 #include "desktop/frame.h"
 
-namespace desktop {
+namespace desktop::common {
 
 /// From a left press on an element to the left release, that element gets every mouse event,
 /// wherever the pointer is: it holds the mouse. Other buttons never start a hold, so that no
@@ -23,6 +23,8 @@ class Pointer {
 
   /// The form on which the mouse is held, or nullptr.
   Form* HeldOn() const { return form_; }
+  /// The element that holds the mouse, or nullptr.
+  const Element* Holder() const { return element_; }
 
  private:
   Frame& frame_;
@@ -30,4 +32,4 @@ class Pointer {
   Element* element_ = nullptr;
 };
 
-}  // namespace desktop
+}  // namespace desktop::common

@@ -7,7 +7,7 @@
 int main(int, char** argv) {
   // Only the program's name: nothing on the command line means anything here.
   int count = 1;
-  desktop::qt::ChoosePlatform();
+  desktop::qt::PrepareToolkit();
   QApplication application(count, argv);
   desktop::qt::QtDesktop desktop;
   thistle::frmMain frame(desktop);

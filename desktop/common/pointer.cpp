@@ -1,10 +1,10 @@
-#include "desktop/pointer.h"
+#include "desktop/common/pointer.h"
 
 #include <utility>
 
 #include "desktop/units.h"
 
-namespace desktop {
+namespace desktop::common {
 
 namespace {
 
@@ -60,4 +60,4 @@ void Pointer::Lose() {
   form.MouseLost(*std::exchange(element_, nullptr));
 }
 
-}  // namespace desktop
+}  // namespace desktop::common

@@ -30,10 +30,10 @@ Element LaidImage(std::string_view name, int index, const Place& place, const Pi
 /// A label in the form's common type, 11.25 point bold, black, without a ground.
 Element LaidLabel(std::string_view name, int index, const Place& place, Align alignment, std::string_view caption = {});
 
-/// A button with a picture as its face.
-Element LaidButton(std::string_view name, const Place& place, std::string_view caption);
+/// A button with a picture as its face. `look` must outlive it.
+Element LaidButton(std::string_view name, const Place& place, std::string_view caption, const ButtonLook& look);
 
 /// A button that Enter and Esc press.
-Element LaidClosingButton(std::string_view name, const Place& place, std::string_view caption);
+Element LaidClosingButton(std::string_view name, const Place& place, std::string_view caption, const ButtonLook& look);
 
 }  // namespace desktop

@@ -1,4 +1,4 @@
-#include "desktop/layout.h"
+#include "desktop/building_blocks.h"
 
 #include "desktop/units.h"
 
@@ -6,7 +6,7 @@ namespace desktop {
 
 Element Laid(Kind kind, std::string_view name, int index, const Place& place) {
   Element element;
-  element.kind = kind;
+  element.Kind = kind;
   element.Name = name;
   element.Index = index;
   element.Left = Pixels(place.Left);
@@ -29,14 +29,15 @@ Element LaidLabel(std::string_view name, int index, const Place& place, Align al
   return label;
 }
 
-Element LaidButton(std::string_view name, const Place& place, std::string_view caption) {
+Element LaidButton(std::string_view name, const Place& place, std::string_view caption, const ButtonLook& look) {
   Element button = Laid(Kind::Button, name, 0, place);
   button.Caption = caption;
+  button.Look = &look;
   return button;
 }
 
-Element LaidClosingButton(std::string_view name, const Place& place, std::string_view caption) {
-  Element button = LaidButton(name, place, caption);
+Element LaidClosingButton(std::string_view name, const Place& place, std::string_view caption, const ButtonLook& look) {
+  Element button = LaidButton(name, place, caption, look);
   button.Default = true;
   button.Cancel = true;
   return button;

@@ -1,0 +1,73 @@
+// How what happens on the screen reaches the handlers, and what every desktop does before and after one.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "desktop/common/keyboard.h"
+#include "desktop/common/pointer.h"
+#include "desktop/common/waits.h"
+
+namespace desktop::common {
+
+/// The side of a desktop that shows.
+class Screen {
+ public:
+  virtual ~Screen() = default;
+  /// Brings what is on the screen up to what the records say.
+  virtual void Follow() = 0;
+};
+
+/// After each event the screen follows the records, and the innermost wait looks up. A desktop calls these and
+/// nothing else of a form or of the frame. Points are the layout's pixels from the form's outer corner.
+class Delivery {
+ public:
+  Delivery(Frame& frame, Screen& screen, Waits& waits);
+
+  // --- The mouse on a form. While an element holds it, moves and releases go to that one's form.
+
+  void Press(Form& form, int button, float x, float y);
+  void Move(int held, float x, float y);
+  void Release(int button, float x, float y);
+  /// The form on which the mouse is held, or nullptr.
+  Form* HeldOn() const { return pointer_.HeldOn(); }
+  const Element* Holder() const { return pointer_.Holder(); }
+
+  // --- Controls
+
+  /// The mouse goes down on a control: its form comes to the front even if no click comes of it.
+  void PressControl(Form& form, Element& control);
+  /// By mouse. Nothing happens where the control has gone or is dead by now.
+  void ClickControl(Form& form, Element& control);
+  /// A key on the form in front. Returns how its text scrolls.
+  Scroll PressKey(Key key, bool held);
+
+  // --- The window
+
+  void OpenMenu();
+  void ChooseMenu(std::string_view name);
+  /// The window can no longer be seen.
+  void Hide();
+  /// The window has another size or state.
+  void Resize(WindowState state);
+  /// The window is asked to close, or the session ends. Does not return where the process ends.
+  void Close();
+
+  // --- What handlers ask of the desktop
+
+  void ReleaseMouse() { pointer_.Lose(); }
+  void SetFocus(Form& form, Element& control);
+  /// Before a question is shown, which takes the mouse.
+  void PrepareQuestion();
+
+  /// Runs `handler` as one event.
+  void Deliver(const std::function<void()>& handler);
+
+ private:
+  Frame& frame_;
+  Screen& screen_;
+  Waits& waits_;
+  Pointer pointer_;
+};
+
+}  // namespace desktop::common

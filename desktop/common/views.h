@@ -1,0 +1,47 @@
+// The forms on show: one view for each, in their order.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "desktop/frame.h"
+
+namespace desktop::common {
+
+/// A form on the screen of a real desktop.
+class View {
+ public:
+  virtual ~View() = default;
+  /// Brings the screen up to what the form's records say now.
+  virtual void Follow() = 0;
+  /// Comes in front of all other views.
+  virtual void Raise() = 0;
+  /// Its form is the one in front: the keyboard goes to the control that the records name.
+  virtual void TakeKeyboard() = 0;
+  /// Goes off the screen, for good. Its own handler may be what unloaded the form, so it ends itself once nothing of
+  /// it runs any more.
+  virtual void Retire() = 0;
+};
+
+class Views {
+ public:
+  /// `make` gives a new view, which lives until it is retired.
+  Views(const Frame& frame, std::function<View*(Form&)> make);
+
+  /// Makes views for new forms, retires those of unloaded ones, and has all of them follow, stand in the forms' order
+  /// and give the keyboard to the form in front.
+  void Follow();
+
+ private:
+  void RetireUnloaded();
+  void FollowOrder();
+
+  const Frame& frame_;
+  std::function<View*(Form&)> make_;
+  std::map<const Form*, View*> views_;
+  std::vector<Form*> order_;
+  const Element* focus_ = nullptr;  ///< on the form in front
+};
+
+}  // namespace desktop::common
