@@ -48,6 +48,12 @@ def start(x, rate, below=30):
     return np.argmax(np.abs(x) > np.abs(x).max() * 10 ** (-below / 20)) / rate
 
 
+def jump(x, rate, at, span=0.008):
+    """How far the level leaps within a few milliseconds of a moment."""
+    padded = np.pad(x, round(span * rate))
+    return rms(part(padded, rate, at + span, at + 2 * span)) - rms(part(padded, rate, at, at + span))
+
+
 def fallen(x, rate, by=20):
     """How long some window still reaches within `by` dB of the loudest one."""
     level = db(levels(x, rate))
@@ -78,6 +84,12 @@ def flatness(x, rate):
 def share_below(x, rate, hertz):
     power = np.abs(np.fft.rfft(x)) ** 2
     return power[:int(hertz * x.size / rate)].sum() / (power.sum() + FLOOR ** 2)
+
+
+def over(x, rate, hertz):
+    """What lies above a frequency against what lies below, in dB."""
+    below = share_below(x, rate, hertz)
+    return db(np.sqrt((1 - below) / (below + FLOOR ** 2)))
 
 
 def spikiness(x, rate, low):
