@@ -76,9 +76,12 @@ def peoplelaugh(x, rate):
     crowd = m.part(x, rate, 0.5, 5)
     yield Claim("peak of the envelope's spectrum, Hz", m.beat(crowd, rate), 3.5, 6)
     yield Claim("envelope variation", m.variation(crowd, rate, 0.02), 0.25, 0.5)
-    yield Claim("envelope periodicity", m.periodicity(crowd, rate), -1, 0.4)
+    yield Claim("envelope periodicity", m.periodicity(crowd, rate), -1, 0.3)
     yield Claim("spectral centroid, Hz", m.centroid(crowd, rate), 800, 1600)
     yield Claim("laughs standing out", m.standing_out(crowd, rate), 6, 30)
+    yield Claim("squeals from 500 to 800 Hz", m.squeals(x, rate), 2, 5)
+    swell = m.rms(m.part(x, rate, 0.1, 0.3)) - m.rms(m.part(x, rate, 1, 3))
+    yield Claim("first laughs, dB to the crowd", swell, -16, -6)
     yield Claim("slope from 1 to 5 s, dB a second", m.slope(m.part(x, rate, 1, 5), rate), -2, 2)
     yield Claim("slope from 5 to 6.2 s, dB a second", m.slope(m.part(x, rate, 5, 6.2), rate), -60, -8)
 

@@ -126,6 +126,22 @@ def standing_out(x, rate, by=3.0):
     return find_peaks(over, height=by, distance=5)[0].size
 
 
+def squeals(x, rate, low=500, high=800, clear=12.0, shortest=0.22):
+    """Single tones too long for a laugh that glide, clear of everything else."""
+    size, hop = int(0.04 * rate), int(0.01 * rate)
+    hertz = np.fft.rfftfreq(8 * size, 1 / rate)
+    near, inside = (hertz > 300) & (hertz < 1200), (hertz > low) & (hertz < high)
+    found, length, last = 0, 0, 0.0
+    for begin in range(0, x.size - size, hop):
+        line = db(np.abs(np.fft.rfft(x[begin:begin + size] * np.hanning(size), 8 * size)))
+        pitch = hertz[inside][np.argmax(line[inside])]
+        alone = line[inside].max() > max(np.median(line[near]) + clear, line[near].max() - 3)
+        length = (length + 1 if abs(pitch - last) < 45 else 1) if alone else 0
+        found += length == round(shortest * rate / hop)
+        last = pitch
+    return found
+
+
 def bursts(x, rate, dip=8.0):
     """How many swellings a fall of `dip` dB parts from one another."""
     level = db(levels(x, rate, 0.04))
