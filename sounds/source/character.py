@@ -69,7 +69,7 @@ def elevator(x, rate):
     yield Claim("20 dB down after, s", m.fallen(x, rate), 0.25, 0.45)
     left = m.loudest(m.part(x, rate, 0.68, 0.73), rate) - m.loudest(x, rate)
     yield Claim("left before the file's end, dB to the loudest", left, -ANY, -38)
-    yield Claim("partials above the prime, dB to it", m.over(m.part(x, rate, 0, 0.1), rate, 1.1 * lines[0]), -7, -2)
+    yield Claim("partials above the prime, dB to it", m.tilt(m.part(x, rate, 0, 0.1), rate, 1.1 * lines[0]), -7, -2)
 
 
 def peoplelaugh(x, rate):

@@ -75,7 +75,7 @@ def _in_breath(rng, voice):
 
 
 def _vowels(rng, calls):
-    """The mouth opens for the first calls and closes towards the last."""
+    """From one vowel towards another while the laugh runs down."""
     first, last = rng.choice(5, p=LIKELY), rng.choice(5, p=LIKELY)
     for call in range(calls):
         vowel = between(VOWELS[first], VOWELS[last], call / calls)

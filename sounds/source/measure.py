@@ -86,7 +86,7 @@ def share_below(x, rate, hertz):
     return power[:int(hertz * x.size / rate)].sum() / (power.sum() + FLOOR ** 2)
 
 
-def over(x, rate, hertz):
+def tilt(x, rate, hertz):
     """What lies above a frequency against what lies below, in dB."""
     below = share_below(x, rate, hertz)
     return db(np.sqrt((1 - below) / (below + FLOOR ** 2)))
