@@ -5,10 +5,11 @@ from strike import puff, put, ring, seeded, silence, struck
 
 PITCH = 1975.5
 # (ratio to the pitch, seconds to fall by 1/e, gain): a bell's partials are not
-# multiples of one another, and the high ones die first.
-PARTIALS = [(0.507, .24, .10), (1.0, .28, 1.0), (1.187, .19, .14), (1.562, .16, .22),
-            (2.018, .15, .42), (2.43, .11, .12), (2.741, .12, .34), (3.36, .085, .16),
-            (3.79, .07, .22), (4.57, .045, .15), (5.12, .03, .10)]
+# multiples of one another, and the high ones die first. All are gone before the
+# recording ends.
+PARTIALS = [(0.507, .145, .10), (1.0, .14, 1.0), (1.187, .13, .22), (1.562, .13, .35),
+            (2.018, .13, .67), (2.43, .105, .19), (2.741, .11, .54), (3.36, .08, .25),
+            (3.79, .065, .35), (4.57, .045, .24), (5.12, .03, .16)]
 
 
 def _doublets(rng):

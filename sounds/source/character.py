@@ -2,6 +2,7 @@
 
 import numpy as np
 
+import loudness
 import measure as m
 from catalogue import RECORDINGS
 from fanfare import BEAT, TUNE
@@ -9,6 +10,8 @@ from form_check import Claim
 from wave_file import parse, samples
 
 ANY = float("inf")
+# When the three dice come into sight, a moment for the sound to rise taken off.
+LANDINGS = (0.002, 0.052, 0.102)
 # The tune as it is sung, in half tones over the B flat on which it stands.
 SUNG = [-5, 0, 0, 0, 2, 4, 5, 7, 0, 2, 2, 4, 5, 4]
 B_FLAT = 466.16
@@ -35,6 +38,10 @@ def rolldice(x, rate):
     yield Claim("onset, s", m.start(x, rate), 0, 0.010)
     heard = m.part(x, rate, 0, 0.5)
     yield Claim("onsets a second", m.onsets(heard, rate) / 0.5, 10, 60)
+    landings = [m.jump(x, rate, at) for at in LANDINGS]
+    yield Claim("smallest jump where a die lands, dB", min(landings), 10, ANY)
+    between = max(m.loudest(m.part(x, rate, at + 0.02, at + 0.045), rate) for at in LANDINGS[:2])
+    yield Claim("between the landings, dB to the loudest", between - m.loudest(x, rate), -ANY, -6)
     yield Claim("20 dB down after, s", m.fallen(x, rate), 0.25, 0.5)
     yield Claim("spectral centroid, Hz", m.centroid(x, rate), 400, 2500)
 
@@ -59,16 +66,22 @@ def elevator(x, rate):
     yield Claim("onset, s", m.start(x, rate), 0, 0.005)
     yield Claim("strongest partial, Hz", lines[0], 1500, 3000)
     yield Claim("inharmonic partials", m.inharmonic(lines), 5, 40)
-    yield Claim("20 dB down after, s", m.fallen(x, rate), 0.4, 0.8)
+    yield Claim("20 dB down after, s", m.fallen(x, rate), 0.25, 0.45)
+    left = m.loudest(m.part(x, rate, 0.68, 0.73), rate) - m.loudest(x, rate)
+    yield Claim("left before the file's end, dB to the loudest", left, -ANY, -38)
+    yield Claim("partials above the prime, dB to it", m.tilt(m.part(x, rate, 0, 0.1), rate, 1.1 * lines[0]), -7, -2)
 
 
 def peoplelaugh(x, rate):
     crowd = m.part(x, rate, 0.5, 5)
     yield Claim("peak of the envelope's spectrum, Hz", m.beat(crowd, rate), 3.5, 6)
     yield Claim("envelope variation", m.variation(crowd, rate, 0.02), 0.25, 0.5)
-    yield Claim("envelope periodicity", m.periodicity(crowd, rate), -1, 0.4)
+    yield Claim("envelope periodicity", m.periodicity(crowd, rate), -1, 0.3)
     yield Claim("spectral centroid, Hz", m.centroid(crowd, rate), 800, 1600)
     yield Claim("laughs standing out", m.standing_out(crowd, rate), 6, 30)
+    yield Claim("squeals from 500 to 800 Hz", m.squeals(x, rate), 2, 5)
+    swell = m.rms(m.part(x, rate, 0.1, 0.3)) - m.rms(m.part(x, rate, 1, 3))
+    yield Claim("first laughs, dB to the crowd", swell, -16, -6)
     yield Claim("slope from 1 to 5 s, dB a second", m.slope(m.part(x, rate, 1, 5), rate), -2, 2)
     yield Claim("slope from 5 to 6.2 s, dB a second", m.slope(m.part(x, rate, 5, 6.2), rate), -60, -8)
 
@@ -88,7 +101,7 @@ def rulebritannia(x, rate):
     yield Claim("notes of the tune at their pitch", _notes_of_the_tune(x, rate), 13, 14)
     yield Claim("spectral centroid, Hz", m.centroid(x, rate), 800, 1600)
     yield Claim("harmonics visible up to, Hz", m.highest_line(m.part(x, rate, 3.1, 3.6), rate), 6000, 8000)
-    yield Claim("RMS, dB", m.rms(x), -13, -9)
+    yield Claim("last chord held until, s", m.fallen(x, rate, 6), 3.95, 4.15)
 
 
 def doorshut(x, rate):
@@ -97,8 +110,12 @@ def doorshut(x, rate):
     thump = m.moments(low, rate)[np.argmax(m.levels(low, rate))]
     yield Claim("onset, s", m.start(x, rate), 0, 0.040)
     yield Claim("latch before the thump by, s", thump - click, 0.01, 0.1)
-    yield Claim("energy below 250 Hz", m.share_below(x, rate, 250), 0.5, 0.98)
-    yield Claim("20 dB down after, s", m.fallen(x, rate), 0.05, 0.25)
+    yield Claim("energy below 250 Hz", m.share_below(x, rate, 250), 0.25, 0.7)
+    lost = loudness.integrated(x, rate) - loudness.integrated(m.band(x, rate, low=300), rate)
+    yield Claim("lost on a small loudspeaker, LU", lost, 0, 3)
+    after = m.part(m.band(x, rate, low=1500), rate, 0.12, 0.4)
+    yield Claim("clicks after the thump", m.onsets(after, rate, 6, 0.02, -20), 2, 2)
+    yield Claim("20 dB down after, s", m.fallen(x, rate), 0.05, 0.32)
 
 
 CHARACTERS = {shown.__name__.upper(): shown for shown in (
@@ -111,5 +128,5 @@ def played(name, image):
     return np.array(samples(parse(image).data, recording.bits)), recording.rate
 
 
-def claims(name, image):
-    return CHARACTERS[name](*played(name, image))
+def claims(name, x, rate):
+    return CHARACTERS[name](x, rate)

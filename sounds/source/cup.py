@@ -10,7 +10,7 @@ FRICTION = 0.3
 SWINGS, FIRST_SWING, SWING = 6, 0.70, 0.32
 # Lifted, brought to rest, tipped, and long after that nudged twice more:
 # (seconds, length, acceleration).
-BUMPS = [(0.555, 0.06, 28), (2.62, 0.09, 24), (2.76, 0.07, 19), (3.44, 0.07, 15), (3.55, 0.06, 16)]
+BUMPS = [(0.555, 0.06, 28), (2.62, 0.09, 24), (2.76, 0.07, 19), (3.44, 0.07, 11.5), (3.55, 0.06, 13)]
 
 
 def _gestures(rng):

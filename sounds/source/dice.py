@@ -25,7 +25,8 @@ def knock(rng, surface, speed):
     sound = struck(scattered(rng, surface.modes, 0.07), width, 0.09)
     bone = ring(scattered(rng, TINKLE), 0.008)
     put(sound, width / 2, bone, surface.click * rng.uniform(0.3, 1.0))
-    return sound * speed ** 0.85
+    # Hard knocks must not drown the soft ones, which make the rattle.
+    return sound * speed ** 0.6
 
 
 def _tumble(rng, surface, speed):
@@ -58,16 +59,16 @@ def _bounces(rng, t, speed):
         yield t, speed
         t += step * rng.uniform(0.8, 1.2)
         step *= 1.13
-        speed *= rng.uniform(0.68, 0.85)
+        speed *= rng.uniform(0.55, 0.74)
 
 
 def roll():
     rng = seeded(24)
     track = silence(0.7)
-    for start, speed in ((0.003, 0.8), (0.021, 0.7), (0.052, 0.6)):
+    for start, speed in ((0.003, 0.8), (0.053, 0.7), (0.103, 0.6)):
         for t, touch in _bounces(rng, start, speed):
             put(track, t, _tumble(rng, CLOTH, touch))
-    for t, speed in ((0.083, 0.5), (0.171, 0.3)):
+    for t, speed in ((0.121, 0.5), (0.208, 0.3)):
         put(track, t, knock(rng, BONE, speed))
     return pressed(heard(track, *TABLE), 1.2)
 

@@ -20,7 +20,7 @@ FONT = "/usr/share/sounds/sf2/FluidR3_GM.sf2"
 BEAT = 0.455
 TICKS = 960
 LENGTH = 4.5
-HOLD = 2.05
+HOLD = 2.69
 ACCENTS = (0.5, 3.5, 4.5, 6.5)
 
 # Notes are (beat, beats, keys...); the tune stands in B flat.
@@ -33,10 +33,10 @@ HORNS = [(.5, .9, 58, 62), (1.5, .9, 58, 53), (2.5, 1, 58, 65), (3.5, .9, 58, 65
 BASS = [(.5, .9, 46), (1.5, .9, 46), (2.5, .9, 46), (3.5, .9, 50), (4.5, .9, 53), (5.5, .9, 41), (6.5, HOLD, 46)]
 TIMPANI = [(.5, .5, 46), (1.5, .5, 46), (2.5, .5, 46), (3.5, .5, 46), (4.5, .5, 41), (5.5, .5, 41), (6, .5, 41),
            (6.5, .5, 46)]
-KETTLE_ROLL = [(6.625 + n * .125, .3, 46) for n in range(12)]
+KETTLE_ROLL = [(6.625 + n * .125, .3, 46) for n in range(17)]
 SNARE = [(beat, .2, 38) for beat in (.5, 1.5, 2.5, 3.25, 3.5, 4.5, 5.5, 6, 6.25, 6.5)]
 SNARE_ROLL = [(beat, .1, 38) for beat in (0, .125, .25, .375, 2, 2.25, 3, 4, 4.25, 5.75)] + [
-    (6.625 + n * .0833, .1, 38) for n in range(14)]
+    (6.625 + n * .0833, .1, 38) for n in range(21)]
 CRASH = [(.5, 2, 49, 35), (3.5, 2, 57, 35), (6.5, 3, 49, 35)]
 
 # A desk: instrument, seat (right, ahead), level, force of stroke or breath.
@@ -96,4 +96,4 @@ def fanfare():
     rng = seeded(1740)
     with tempfile.TemporaryDirectory() as folder:
         band = sum(desk.level * heard(_render(rng, desk, Path(folder)), desk.x, desk.y) for desk in DESKS)
-    return pressed(band, 2.2)
+    return pressed(band, 1.4)

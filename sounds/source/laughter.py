@@ -1,76 +1,99 @@
-"""Thirty-four voices laughing, each with its own throat and its own bouts."""
+"""Thirty-four people laughing: aloud, on the breath, through the nose."""
 
 from collections import namedtuple
 
 import numpy as np
 
 from room import heard
-from strike import SR, pressed, put, resonate, seeded, silence
+from strike import SR, pressed, put, seeded, silence
+from throat import HA, HEE, HEH, HO, HUH, between, folds, mouth, nose
 
-Voice = namedtuple("Voice", "pitch throat vowel rate breathy level")
+Voice = namedtuple("Voice", "pitch size rate breathy level")
 LENGTH = 6.7
 VOICES = 34
-IN_FRONT = 7
-# Three formants each, for a grown man: ha, heh, huh, ho, hee.
-VOWELS = [(730, 1180, 2500), (560, 1720, 2450), (620, 1250, 2450), (520, 940, 2400), (340, 2050, 2800)]
-LIKELY = [0.4, 0.2, 0.25, 0.1, 0.05]
-WIDTHS = (95, 110, 170, 260)
-GAINS = (1.0, 0.75, 0.4, 0.22)
+IN_FRONT = 8
+VOWELS, LIKELY = [HA, HEH, HUH, HO, HEE], [0.4, 0.2, 0.25, 0.1, 0.05]
+# The joke reaches everyone at about the same time: the moment it bursts out.
+BURST = 0.55
+# About when somebody cannot hold it any longer, and how high that goes.
+SQUEALS = [(1.3, 690), (2.7, 770), (4.2, 730)]
 
 
 def _voice(rng, front):
     woman = rng.rand() < 0.5
-    pitch = rng.uniform(205, 300) if woman else rng.uniform(128, 190)
-    throat = rng.uniform(1.1, 1.24) if woman else rng.uniform(0.93, 1.06)
-    level = 10 ** (rng.uniform(7.5, 10) / 20) if front else np.exp(0.3 * rng.randn())
-    return Voice(pitch, throat, VOWELS[rng.choice(5, p=LIKELY)], rng.uniform(4.1, 5.6),
-                 rng.uniform(0.15, 0.5), level)
+    pitch = rng.uniform(225, 320) if woman else rng.uniform(140, 215)
+    size = rng.uniform(1.1, 1.24) if woman else rng.uniform(0.93, 1.06)
+    level = 10 ** (rng.uniform(7, 10) / 20) if front else np.exp(0.3 * rng.randn())
+    return Voice(pitch, size, rng.uniform(4.1, 5.6), rng.uniform(0.15, 0.5), level)
 
 
-def _folds(rng, pitch):
-    """Air through the vocal folds: slow opening, sharp closing, never quite
-    regular."""
-    drift = np.repeat(rng.randn(pitch.size // 220 + 1), 220)[:pitch.size]
-    phase = np.cumsum(pitch * (1 + 0.012 * drift)) / SR % 1.0
-    flow = np.where(phase < 0.6, np.sin(np.pi * phase / 1.2) ** 2, 0)
-    flow *= np.clip((0.64 - phase) / 0.05, 0, 1)
-    return np.diff(flow, prepend=0) * 40
+def _swell(t):
+    return 0.6 + 0.4 * np.clip(t / BURST, 0, 1) + np.exp(-((t - BURST) / 0.25) ** 2)
 
 
-def _mouth(voice, source, open_wide):
-    formants = [hertz * voice.throat * (1 + 0.06 * open_wide) for hertz in voice.vowel]
-    formants.append(3500 * voice.throat)
-    return sum(gain * resonate(source, hertz, width)
-               for hertz, width, gain in zip(formants, WIDTHS, GAINS))
+def _length(rng, gap):
+    return min(rng.triangular(0.06, 0.085, 0.18), 0.75 * gap)
 
 
-def _call(rng, voice, effort):
+def _aloud(rng, voice, vowel, effort, gap):
     """One ha: breath, then a note that arches up and falls."""
-    note, breath = rng.uniform(0.06, 0.1), rng.uniform(0.045, 0.08)
+    note, breath = _length(rng, gap), rng.uniform(0.035, 0.07)
     size = int((note + breath + 0.03) * SR)
     t = np.arange(size) / SR - breath
-    arch = np.sin(np.pi * np.clip(t / (note + 0.03), 0, 1) ** 0.7)
-    pitch = voice.pitch * (0.78 + effort * (0.2 + 0.24 * arch)) * np.exp(0.05 * rng.randn())
+    arch = np.sin(np.pi * np.clip(t / (note + 0.03), 0, 1) ** rng.uniform(0.5, 0.9))
+    pitch = voice.pitch * (0.78 + effort * (0.2 + 0.24 * arch)) * np.exp(0.06 * rng.randn())
     voiced = np.clip(t / 0.014, 0, 1) * np.clip((note + 0.028 - t) / 0.03, 0, 1)
     aspirate = np.clip((t + breath) / 0.03, 0, 1) * np.clip((note + 0.03 - t) / 0.05, 0, 1)
     noise = rng.randn(size) * aspirate * voice.breathy * (0.75 - 0.45 * voiced)
-    return _mouth(voice, _folds(rng, pitch) * voiced + noise, rng.randn()) * effort
+    return mouth(folds(rng, pitch) * voiced + noise, vowel, voice.size)
+
+
+def _breathed(rng, voice, vowel, _, gap):
+    """The same without the folds: a puff of the chest, lips and throat."""
+    note = _length(rng, gap)
+    t = np.arange(int((note + 0.05) * SR)) / SR
+    puff = np.clip(t / 0.012, 0, 1) * np.clip((note + 0.05 - t) / 0.06, 0, 1) ** 1.5
+    return mouth(rng.randn(t.size) * puff * rng.uniform(0.45, 0.7), vowel, voice.size)
+
+
+def _snorted(rng, voice, _vowel, _effort, gap):
+    """The palate flutters in the stream of air."""
+    note = _length(rng, gap)
+    t = np.arange(int((note + 0.03) * SR)) / SR
+    flutter = np.clip(np.sin(2 * np.pi * rng.uniform(38, 65) * t + 3 * rng.rand()) + 0.3 * rng.randn(), 0, 1)
+    stream = np.clip(t / 0.02, 0, 1) * np.clip((note + 0.03 - t) / 0.04, 0, 1)
+    return nose(rng.randn(t.size) * stream * (0.25 + flutter), voice.size) * rng.uniform(0.6, 0.9)
+
+
+# More than a third of all laughing has no voice in it.
+WAYS, USUAL = [_aloud, _breathed, _snorted], [0.58, 0.3, 0.12]
 
 
 def _in_breath(rng, voice):
     size = int(rng.uniform(0.2, 0.32) * SR)
-    return _mouth(voice, rng.randn(size) * np.hanning(size) * 0.3 * voice.breathy, 1.0)
+    return mouth(rng.randn(size) * np.hanning(size) * 0.3 * voice.breathy, HUH, voice.size)
+
+
+def _vowels(rng, calls):
+    """From one vowel towards another while the laugh runs down."""
+    first, last = rng.choice(5, p=LIKELY), rng.choice(5, p=LIKELY)
+    for call in range(calls):
+        vowel = between(VOWELS[first], VOWELS[last], call / calls)
+        yield between(vowel, HUH, 0.25 * rng.rand())
 
 
 def _bout(rng, voice, track, t, until):
     """Bursts out, then runs down: each call weaker, lower and later."""
     effort, gap = rng.uniform(0.9, 1.25), 1 / voice.rate
-    for _ in range(rng.randint(5, 13)):
+    way = WAYS[rng.choice(3, p=USUAL)]
+    voice = voice._replace(pitch=voice.pitch * np.exp(0.08 * rng.randn()))
+    for vowel in _vowels(rng, rng.randint(5, 13) if way is _aloud else rng.randint(3, 8)):
         if t > until:
             break
-        put(track, t, _call(rng, voice, effort * np.exp(0.15 * rng.randn())), voice.level)
+        strength = effort * np.exp(0.18 * rng.randn())
+        put(track, t, way(rng, voice, vowel, strength, gap), voice.level * strength * _swell(t))
         t += gap * (1 + 0.1 * rng.randn())
-        gap *= rng.uniform(0.99, 1.08)
+        gap *= rng.uniform(0.98, 1.09)
         effort *= rng.uniform(0.87, 1.0)
     put(track, t, _in_breath(rng, voice), voice.level)
     return t + rng.uniform(0.3, 1.2)
@@ -84,15 +107,33 @@ def _alone(rng, voice, begin, until):
     return track * (1 - 0.7 * np.clip((t - 4.8) / 1.5, 0, 1))
 
 
+def _squeal(rng, top):
+    """Up in one go, unsteady at the top, and down again."""
+    seconds = rng.uniform(0.34, 0.46)
+    way = np.linspace(0, 1, int(seconds * SR))
+    wobble = 1 + 0.025 * np.sin(2 * np.pi * rng.uniform(7, 11) * seconds * way + 6 * rng.rand())
+    pitch = top * (0.78 + 0.22 * np.sin(np.pi * way ** 0.8)) * wobble
+    shape = np.clip(way / 0.12, 0, 1) * np.clip((1 - way) / 0.3, 0, 1)
+    source = folds(rng, pitch) + 0.12 * rng.randn(way.size)
+    return mouth(source * shape, between(HA, HEE, rng.uniform(0.2, 0.6)), 1.2)
+
+
+def _seat(rng, front):
+    far = rng.uniform(1.2, 1.9) if front else rng.uniform(2.0, 5.5)
+    angle = rng.uniform(-1.3, 1.3)
+    return far * np.sin(angle), far * np.cos(angle)
+
+
 def laughter():
-    rng = seeded(31)
+    rng = seeded(34)
     crowd = silence(LENGTH)
     for person in range(VOICES):
         front = person < IN_FRONT
-        far = rng.uniform(1.2, 1.9) if front else rng.uniform(2.0, 5.5)
-        angle = rng.uniform(-1.3, 1.3)
-        begin = person * 0.45 if front else min(rng.exponential(0.35), 1.6)
-        voice = _voice(rng, front)
-        alone = _alone(rng, voice, begin, rng.uniform(4.7, 6.4))
-        crowd += heard(alone, far * np.sin(angle), far * np.cos(angle))
-    return pressed(crowd, 1.5)
+        begin = 2.4 * rng.beta(0.9, 2) if front else min(rng.exponential(0.25), 1.4)
+        alone = _alone(rng, _voice(rng, front), begin, rng.uniform(4.7, 6.4))
+        crowd += heard(alone, *_seat(rng, front))
+    for about, top in SQUEALS:
+        squealing = silence(LENGTH)
+        put(squealing, about + rng.uniform(-0.3, 0.3), _squeal(rng, top), 1.25)
+        crowd += heard(squealing, *_seat(rng, True))
+    return pressed(crowd, 1.3)

@@ -48,6 +48,12 @@ def start(x, rate, below=30):
     return np.argmax(np.abs(x) > np.abs(x).max() * 10 ** (-below / 20)) / rate
 
 
+def jump(x, rate, at, span=0.008):
+    """How far the level leaps within a few milliseconds of a moment."""
+    padded = np.pad(x, round(span * rate))
+    return rms(part(padded, rate, at + span, at + 2 * span)) - rms(part(padded, rate, at, at + span))
+
+
 def fallen(x, rate, by=20):
     """How long some window still reaches within `by` dB of the loudest one."""
     level = db(levels(x, rate))
@@ -78,6 +84,12 @@ def flatness(x, rate):
 def share_below(x, rate, hertz):
     power = np.abs(np.fft.rfft(x)) ** 2
     return power[:int(hertz * x.size / rate)].sum() / (power.sum() + FLOOR ** 2)
+
+
+def tilt(x, rate, hertz):
+    """What lies above a frequency against what lies below, in dB."""
+    below = share_below(x, rate, hertz)
+    return db(np.sqrt((1 - below) / (below + FLOOR ** 2)))
 
 
 def spikiness(x, rate, low):
@@ -112,6 +124,22 @@ def standing_out(x, rate, by=3.0):
     level = db(levels(x, rate, 0.04))
     over = level - median_filter(level, 75)
     return find_peaks(over, height=by, distance=5)[0].size
+
+
+def squeals(x, rate, low=500, high=800, clear=12.0, shortest=0.22):
+    """Single tones too long for a laugh that glide, clear of everything else."""
+    size, hop = int(0.04 * rate), int(0.01 * rate)
+    hertz = np.fft.rfftfreq(8 * size, 1 / rate)
+    near, inside = (hertz > 300) & (hertz < 1200), (hertz > low) & (hertz < high)
+    found, length, last = 0, 0, 0.0
+    for begin in range(0, x.size - size, hop):
+        line = db(np.abs(np.fft.rfft(x[begin:begin + size] * np.hanning(size), 8 * size)))
+        pitch = hertz[inside][np.argmax(line[inside])]
+        alone = line[inside].max() > max(np.median(line[near]) + clear, line[near].max() - 3)
+        length = (length + 1 if abs(pitch - last) < 45 else 1) if alone else 0
+        found += length == round(shortest * rate / hop)
+        last = pitch
+    return found
 
 
 def bursts(x, rate, dip=8.0):
