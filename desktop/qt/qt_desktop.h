@@ -45,10 +45,11 @@ class QtDesktop : public Desktop, private common::Screen {
   /// The window, for tests.
   FrameWindow& window() { return *window_; }
 
- private:
+ protected:
   // --- common::Screen
   void Follow() override { views_->Follow(); }
 
+ private:
   common::Waits waits_;
   common::Chance chance_;
   SettingsStore settings_;

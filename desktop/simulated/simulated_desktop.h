@@ -36,6 +36,7 @@ class SimulatedDesktop : public Desktop, private common::Screen {
   // --- What a test prepares.
 
   std::deque<float> chance;  ///< dealt first; then a generator goes on
+  void Seed(std::uint64_t seed) { generator_.Seed(seed); }
   std::deque<bool> answers;  ///< taken one a question; a question without one is a logic_error
   Area workArea{0, 0, 19200, 12000};
   /// Runs after each event and before each rest.

@@ -12,9 +12,9 @@ namespace storm {
 
 /// One line of a list: "1200 press left 208 300", "1350 menu mnuNewGame", "1350 answer yes".
 struct Input {
-  long time = 0;      ///< milliseconds on the run's clock
-  std::string what;   ///< press, move, release, menu, key, window, lose, close; or answer, to a question
-  std::string which;  ///< button, entry, key, state, yes or no; "-" where there is no choice
+  long time = 0;      ///< milliseconds on the run's clock; a list that is played by its "until" lines has none
+  std::string what;   ///< press, move, release, menu, key, window, lose, close; or answer, to a question; or until
+  std::string which;  ///< button, entry, key, state, yes or no; "-" where there is no choice; what is waited for
   float x = 0, y = 0;
 };
 
@@ -55,8 +55,12 @@ inline Script ReadScript(const std::filesystem::path& file) {
       words >> std::quoted(key);
       words >> std::quoted(script.store[key]);
     } else if (first != "#") {
-      Input& input = script.inputs.emplace_back(Input{std::stol(first), {}, {}});
-      words >> input.what >> input.which >> input.x >> input.y;
+      Input& input = script.inputs.emplace_back(Input{first == "-" ? 0 : std::stol(first), {}, {}});
+      words >> input.what >> std::ws;
+      if (input.what == "until")
+        std::getline(words, input.which);
+      else
+        words >> input.which >> input.x >> input.y;
     }
   }
   return script;

@@ -31,7 +31,7 @@ def wait_until(what, look, patience=PATIENCE):
 def start(command, **options):
     """Starts a child process that cannot outlive this one."""
     die_with_parent = functools.partial(ctypes.CDLL(None).prctl, 1, signal.SIGKILL)
-    return subprocess.Popen(command, preexec_fn=die_with_parent, stdin=subprocess.DEVNULL, **options)
+    return subprocess.Popen(command, preexec_fn=die_with_parent, **{"stdin": subprocess.DEVNULL, **options})
 
 
 def stop(process):
@@ -67,14 +67,15 @@ class Desk:
             stop(child)
         self._folder.cleanup()
 
-    def start(self, command, quiet=False, **variables):
-        """Starts a program on this display, with nothing of the user's desktop and files."""
+    def start(self, command, quiet=False, pipes=None, **variables):
+        """Starts a program on this display, with nothing of the user's desktop and files. `pipes` are its standard
+        input and output, where they are not this one's."""
         kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS") if name in os.environ}
         kept |= {"LANG": "C.UTF-8", "HOME": self.home, "XDG_RUNTIME_DIR": self.home, "SDL_AUDIODRIVER": "dummy",
                  "XDG_CONFIG_HOME": self.home + "/config", "XDG_CACHE_HOME": self.home + "/cache"}
         words = subprocess.DEVNULL if quiet else None
-        self._children.append(start(command, env={**kept, "DISPLAY": self.name, **variables}, stdout=words,
-                                    stderr=words))
+        options = {"stdout": words, "stderr": words, **(pipes or {})}
+        self._children.append(start(command, env={**kept, "DISPLAY": self.name, **variables}, **options))
         return self._children[-1]
 
     def _start_server(self):

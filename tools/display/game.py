@@ -153,13 +153,15 @@ def under_menu(picture, scale=1):
 class Game:
     """One run of the program. Use it in a `with`: it is ended where it has not ended by itself."""
 
+    pipes = None  # what its standard input and output are tied to, where not to this program's
+
     def __init__(self, desk, scale=1, **variables):
         self.desk = desk
         self.scale = scale
         self.variables = {"QT_SCALE_FACTOR": str(scale), **variables}
 
     def __enter__(self):
-        self.process = self.desk.start([os.environ["GAME"]], **self.variables)
+        self.process = self.desk.start([os.environ["GAME"]], pipes=self.pipes, **self.variables)
         try:
             self.window = wait_until("the game's window", self._find_window)
             wait_until("the opening form", self.shows_opening)
