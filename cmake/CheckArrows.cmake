@@ -1,12 +1,13 @@
 # Fails where a folder includes a header that its place in the house does not allow.
 # Usage: cmake -DROOT=source-folder -P CheckArrows.cmake
 #
-# Includes in quotes are the project's own and begin with their folder. Toolkit and sound headers
-# stand in angle brackets and are allowed in desktop/qt alone.
+# Includes in quotes are the project's own and begin with their folder. Headers of the toolkit and of
+# the sound library stand in angle brackets, and each is allowed in the one folder named for it.
 cmake_minimum_required(VERSION 3.23)
 
 set(may_desktop desktop)
-set(may_desktop_qt desktop desktop/qt)
+set(may_desktop_qt desktop desktop/qt desktop/sdl)
+set(may_desktop_sdl desktop desktop/sdl)
 set(may_desktop_simulated desktop desktop/simulated)
 set(may_Graphics desktop Graphics)
 set(may_sounds desktop sounds)
@@ -14,18 +15,22 @@ set(may_game desktop Graphics sounds game)
 set(may_table ${may_game} table)
 set(may_shell ${may_table} shell)
 
-set(toolkit "#include <(Q[A-Z]|q[a-z]+\\.h|SDL|X11/|windows\\.h)")
+set(qt "#include <(Q[A-Z]|q[a-z]+\\.h|X11/|windows\\.h)")
+set(sdl "#include <(SDL|dlfcn)")
 set(wrong "")
-foreach(folder desktop desktop/qt desktop/simulated Graphics sounds game table shell)
+foreach(folder desktop desktop/qt desktop/sdl desktop/simulated Graphics sounds game table shell)
   string(REPLACE "/" "_" key "${folder}")
   file(GLOB files RELATIVE "${ROOT}" "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
   foreach(file IN LISTS files)
-    if(NOT folder STREQUAL "desktop/qt")
-      file(STRINGS "${ROOT}/${file}" lines REGEX "${toolkit}")
+    foreach(library qt sdl)
+      if(folder STREQUAL "desktop/${library}")
+        continue()
+      endif()
+      file(STRINGS "${ROOT}/${file}" lines REGEX "${${library}}")
       foreach(line IN LISTS lines)
         string(APPEND wrong "\n  ${file}: ${line}")
       endforeach()
-    endif()
+    endforeach()
     file(STRINGS "${ROOT}/${file}" lines REGEX "^#include \"")
     foreach(line IN LISTS lines)
       string(REGEX REPLACE "^#include \"(.*)/[^/]*\".*" "\\1" from "${line}")

@@ -14,7 +14,7 @@
 #include "desktop/qt/frame_window.h"
 #include "desktop/qt/picture_store.h"
 #include "desktop/qt/settings_store.h"
-#include "desktop/qt/sound_player.h"
+#include "desktop/sdl/sound_player.h"
 
 namespace desktop::qt {
 
@@ -63,7 +63,7 @@ class QtDesktop : public Desktop, private Events {
   Chance chance_;
   SettingsStore settings_;
   PictureStore pictures_;
-  SoundPlayer sound_;
+  sdl::SoundPlayer sound_;
   bool seen_ = false;                 ///< the window's first picture is on the screen
   std::optional<WaveImage> opening_;  ///< to be played then
   std::unique_ptr<FrameWindow> window_;

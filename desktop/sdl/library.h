@@ -3,10 +3,10 @@
 
 #include <SDL.h>
 
-namespace desktop::qt {
+namespace desktop::sdl {
 
 /// Linked in, SDL would bring some thirty libraries into every start of the program.
-struct Sdl {
+struct Library {
   decltype(&SDL_SetHint) SetHint = nullptr;
   decltype(&SDL_LoadObject) LoadObject = nullptr;
   decltype(&SDL_LoadFunction) LoadFunction = nullptr;
@@ -33,4 +33,4 @@ struct Sdl {
   bool Load();
 };
 
-}  // namespace desktop::qt
+}  // namespace desktop::sdl
