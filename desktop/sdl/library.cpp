@@ -56,7 +56,6 @@ bool Library::Load() {
   finder.Find(AudioStreamPut, "SDL_AudioStreamPut");
   finder.Find(AudioStreamGet, "SDL_AudioStreamGet");
   finder.Find(AudioStreamAvailable, "SDL_AudioStreamAvailable");
-  finder.Find(AudioStreamFlush, "SDL_AudioStreamFlush");
   return finder.found;
 }
 

@@ -27,7 +27,6 @@ struct Library {
   decltype(&SDL_AudioStreamPut) AudioStreamPut = nullptr;
   decltype(&SDL_AudioStreamGet) AudioStreamGet = nullptr;
   decltype(&SDL_AudioStreamAvailable) AudioStreamAvailable = nullptr;
-  decltype(&SDL_AudioStreamFlush) AudioStreamFlush = nullptr;
 
   /// Finds them all. False where the library is missing, or lacks one of them.
   bool Load();

@@ -11,6 +11,14 @@ namespace {
 // them at every rate in use (8000, 11025, 16000 and 22050 Hz), or the recording would run fast.
 constexpr std::size_t kPiece = 1600 * sizeof(Sample);
 
+// The stream looks ahead and holds so many bytes back. They are given on top of the first piece,
+// for that too has to make a whole number of frames.
+constexpr std::size_t kAhead = 512 * sizeof(Sample);
+
+// Silence behind a recording. What the stream holds back at the end is lost, even to a flush, and
+// would otherwise be up to 64 ms of the recording.
+constexpr std::size_t kBehind = kPiece;
+
 /// The samples of a recording in 16 bits, at its own rate; none where they cannot be had.
 std::vector<Uint8> Widened(const Library& sdl, const SDL_AudioSpec& spec, std::span<const Uint8> bytes) {
   SDL_AudioCVT width{};
@@ -35,29 +43,31 @@ Recording::Recording(const Library& sdl, const WaveImage& image) : sdl_(sdl), st
   if (!file || !sdl_.LoadWAV_RW(file, 1, &spec, &bytes, &size)) return;
   const std::unique_ptr<Uint8, decltype(Library::FreeWAV)> loaded(bytes, sdl_.FreeWAV);
 
-  // The width first and apart: at the end a stream fills up with zeros, which are not silence in
-  // eight bits.
+  // The width first and apart: the silence behind is written in 16 bits.
   samples_ = Widened(sdl_, spec, {bytes, size});
   if (samples_.empty()) return;
-  seconds_ = static_cast<double>(samples_.size()) / sizeof(Sample) / spec.freq;
+  left_ = samples_.size() / sizeof(Sample) * kRate / static_cast<std::size_t>(spec.freq);
+  seconds_ = static_cast<double>(left_) / kRate;
+  samples_.resize(samples_.size() + kBehind);
   stream_.reset(sdl_.NewAudioStream(AUDIO_S16SYS, 1, spec.freq, AUDIO_S16SYS, 1, kRate));
 }
 
 std::size_t Recording::Read(std::span<Sample> out) {
   if (!stream_) return 0;
-  const auto wanted = static_cast<int>(out.size_bytes());
+  const auto wanted = static_cast<int>(std::min(out.size(), left_) * sizeof(Sample));
   Convert(wanted);
   const int got = sdl_.AudioStreamGet(stream_.get(), out.data(), wanted);
-  return static_cast<std::size_t>(std::max(got, 0)) / sizeof(Sample);
+  const auto count = static_cast<std::size_t>(std::max(got, 0)) / sizeof(Sample);
+  left_ -= count;
+  return count;
 }
 
-/// Makes the stream hold so many bytes, or all that are left.
+/// Makes the stream hold so many bytes.
 void Recording::Convert(int bytes) {
   while (given_ < samples_.size() && sdl_.AudioStreamAvailable(stream_.get()) < bytes) {
-    const std::size_t piece = std::min(kPiece, samples_.size() - given_);
+    const std::size_t piece = std::min(given_ == 0 ? kPiece + kAhead : kPiece, samples_.size() - given_);
     sdl_.AudioStreamPut(stream_.get(), samples_.data() + given_, static_cast<int>(piece));
     given_ += piece;
-    if (given_ == samples_.size()) sdl_.AudioStreamFlush(stream_.get());
   }
 }
 

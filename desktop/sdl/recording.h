@@ -27,8 +27,9 @@ class Recording : public Voice {
 
   const Library& sdl_;
   std::unique_ptr<SDL_AudioStream, decltype(Library::FreeAudioStream)> stream_;
-  std::vector<Uint8> samples_;  ///< 16 bits each, at the recording's own rate
+  std::vector<Uint8> samples_;  ///< 16 bits each, at the recording's own rate, and silence behind them
   std::size_t given_ = 0;       ///< bytes of them that the stream has
+  std::size_t left_ = 0;        ///< samples still to be read
   double seconds_ = 0;
 };
 
