@@ -40,6 +40,7 @@ bool Library::Load() {
   finder.Find(LoadObject, "SDL_LoadObject");
   finder.Find(LoadFunction, "SDL_LoadFunction");
   finder.Find(InitSubSystem, "SDL_InitSubSystem");
+  finder.Find(QuitSubSystem, "SDL_QuitSubSystem");
   finder.Find(OpenAudioDevice, "SDL_OpenAudioDevice");
   finder.Find(CloseAudioDevice, "SDL_CloseAudioDevice");
   finder.Find(PauseAudioDevice, "SDL_PauseAudioDevice");

@@ -11,6 +11,7 @@ struct Library {
   decltype(&SDL_LoadObject) LoadObject = nullptr;
   decltype(&SDL_LoadFunction) LoadFunction = nullptr;
   decltype(&SDL_InitSubSystem) InitSubSystem = nullptr;
+  decltype(&SDL_QuitSubSystem) QuitSubSystem = nullptr;
   decltype(&SDL_OpenAudioDevice) OpenAudioDevice = nullptr;
   decltype(&SDL_CloseAudioDevice) CloseAudioDevice = nullptr;
   decltype(&SDL_PauseAudioDevice) PauseAudioDevice = nullptr;

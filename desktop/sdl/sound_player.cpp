@@ -64,6 +64,7 @@ void SoundPlayer::Play(const WaveImage& image) {
 void SoundPlayer::Work() {
   while (const auto order = NextOrder()) Start(*order);
   CloseDevice();
+  if (ready_) sdl_.QuitSubSystem(SDL_INIT_AUDIO);
 }
 
 /// Rests until there is something to play; none when the player ends. An idle device is let go in
@@ -121,6 +122,7 @@ bool SoundPlayer::OpenDevice() {
     return false;
   }
   notBefore_.reset();
+  letGo_ = Clock::now() + kHoldDevice;
   sdl_.PauseAudioDevice(device_, 0);
   return true;
 }
