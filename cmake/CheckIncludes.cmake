@@ -27,7 +27,7 @@ set(sdl "(sdl2?/)?sdl.*\\.h")
 set(windows "(windows|windowsx|winuser|wingdi|winreg|commctrl|commdlg|mmsystem|wincodec|shellapi|shlobj|objbase|oleacc|uiautomation|richedit|uxtheme|dwmapi|initguid|tchar)\\.h")
 set(posix "(x11/.*|xcb/.*|dlfcn\\.h|unistd\\.h|signal\\.h|sys/.*|wayland.*)")
 set(has_qt desktop/qt)
-set(has_sdl desktop/sdl desktop/qt)
+set(has_sdl desktop/sdl)
 set(has_windows desktop/win32)
 set(has_posix desktop/qt desktop/sdl)
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "desktop/desktop.h"
-#include "desktop/qt/sound_player.h"
+#include "desktop/sdl/sound_player.h"
 
 namespace desktop::qt {
 
@@ -28,7 +28,7 @@ class OpeningSound {
  private:
   static constexpr std::chrono::milliseconds kLongest{500};
 
-  SoundPlayer player_;
+  sdl::SoundPlayer player_;
   bool begun_ = false;
   std::optional<WaveImage> first_;
   QObject guard_;  ///< no timer outlives it

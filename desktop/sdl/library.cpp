@@ -1,46 +1,46 @@
-#include "desktop/qt/sdl.h"
+#include "desktop/sdl/library.h"
 
-#include <QLibrary>
+#include <dlfcn.h>
 
-namespace desktop::qt {
+namespace desktop::sdl {
 
 namespace {
 
-#if defined(Q_OS_WIN)
-constexpr auto kLibrary = "SDL2";
-#elif defined(Q_OS_MACOS)
-constexpr auto kLibrary = "libSDL2-2.0.0";
+#if defined(__APPLE__)
+constexpr auto kFile = "libSDL2-2.0.0.dylib";
 #else
-constexpr auto kLibrary = "libSDL2-2.0.so.0";
+constexpr auto kFile = "libSDL2-2.0.so.0";
 #endif
 
 /// Notes in `found` when one is missing.
 class Finder {
  public:
-  explicit Finder(QLibrary& library) : library_(library) {}
+  explicit Finder(void* file) : file_(file) {}
 
   template <typename Function>
   void Find(Function& function, const char* name) {
-    function = reinterpret_cast<Function>(library_.resolve(name));
+    function = reinterpret_cast<Function>(dlsym(file_, name));
     found = found && function;
   }
 
   bool found = true;
 
  private:
-  QLibrary& library_;
+  void* file_;
 };
 
 }  // namespace
 
-bool Sdl::Load() {
-  QLibrary library(QString::fromLatin1(kLibrary));
-  if (!library.load()) return false;
-  Finder finder(library);
+bool Library::Load() {
+  // Left open: its functions are called until the program ends.
+  void* file = dlopen(kFile, RTLD_LAZY);
+  if (!file) return false;
+  Finder finder(file);
   finder.Find(SetHint, "SDL_SetHint");
   finder.Find(LoadObject, "SDL_LoadObject");
   finder.Find(LoadFunction, "SDL_LoadFunction");
   finder.Find(InitSubSystem, "SDL_InitSubSystem");
+  finder.Find(QuitSubSystem, "SDL_QuitSubSystem");
   finder.Find(OpenAudioDevice, "SDL_OpenAudioDevice");
   finder.Find(CloseAudioDevice, "SDL_CloseAudioDevice");
   finder.Find(PauseAudioDevice, "SDL_PauseAudioDevice");
@@ -57,8 +57,7 @@ bool Sdl::Load() {
   finder.Find(AudioStreamPut, "SDL_AudioStreamPut");
   finder.Find(AudioStreamGet, "SDL_AudioStreamGet");
   finder.Find(AudioStreamAvailable, "SDL_AudioStreamAvailable");
-  finder.Find(AudioStreamFlush, "SDL_AudioStreamFlush");
   return finder.found;
 }
 
-}  // namespace desktop::qt
+}  // namespace desktop::sdl

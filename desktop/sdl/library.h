@@ -3,14 +3,15 @@
 
 #include <SDL.h>
 
-namespace desktop::qt {
+namespace desktop::sdl {
 
 /// Linked in, SDL would bring some thirty libraries into every start of the program.
-struct Sdl {
+struct Library {
   decltype(&SDL_SetHint) SetHint = nullptr;
   decltype(&SDL_LoadObject) LoadObject = nullptr;
   decltype(&SDL_LoadFunction) LoadFunction = nullptr;
   decltype(&SDL_InitSubSystem) InitSubSystem = nullptr;
+  decltype(&SDL_QuitSubSystem) QuitSubSystem = nullptr;
   decltype(&SDL_OpenAudioDevice) OpenAudioDevice = nullptr;
   decltype(&SDL_CloseAudioDevice) CloseAudioDevice = nullptr;
   decltype(&SDL_PauseAudioDevice) PauseAudioDevice = nullptr;
@@ -27,10 +28,9 @@ struct Sdl {
   decltype(&SDL_AudioStreamPut) AudioStreamPut = nullptr;
   decltype(&SDL_AudioStreamGet) AudioStreamGet = nullptr;
   decltype(&SDL_AudioStreamAvailable) AudioStreamAvailable = nullptr;
-  decltype(&SDL_AudioStreamFlush) AudioStreamFlush = nullptr;
 
   /// Finds them all. False where the library is missing, or lacks one of them.
   bool Load();
 };
 
-}  // namespace desktop::qt
+}  // namespace desktop::sdl
