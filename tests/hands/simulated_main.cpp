@@ -68,7 +68,9 @@ class Player {
   void Asked() {
     Look();
     witness_.Happens("question " + hands::OneLine(play_.desktop.questions.back().what));
-    const std::string& answer = script_.inputs.at(at_++).which;
+    const storm::Input& next = script_.inputs.at(at_++);
+    if (next.what != "answer") throw std::logic_error("no answer in the list, but " + next.what + ' ' + next.which);
+    const std::string& answer = next.which;
     play_.desktop.answers = {answer == "yes"};
     witness_.Happens("answer " + answer);
     GiveNext();
