@@ -59,9 +59,7 @@ void FormView::FollowDescription() {
   const QString words = QString::fromStdString(form_.Description());
   if (words == description_) return;
   description_ = words;
-  setAccessibleDescription(words);
-  QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
-  QAccessible::updateAccessibility(&changed);
+  setAccessibleDescription(words);  // which announces it
 }
 
 Control& FormView::ControlOf(Element& element) {

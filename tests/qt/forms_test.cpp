@@ -108,6 +108,23 @@ TEST_F(Forms, About) {
   ExpectLook(frame.About, sheet, {{"OK", {218, 140, 98, 26}}});
 }
 
+TEST_F(Forms, TheOneShownOrPressedLastLiesOnTop) {
+  StartGame();
+  Menu("About");
+  const auto isOnTop = [&](const desktop::Form& form) {
+    const QWidget* there = desktop.window().area().childAt(170, 130);
+    return there == ViewOf(form) || ViewOf(form)->isAncestorOf(there);
+  };
+  const QPoint bare(620, 10), getChange(500, 385);
+  for (const QPoint press : {bare, getChange}) {
+    EXPECT_TRUE(isOnTop(frame.About)) << press.x();
+    Press(table, press);
+    EXPECT_TRUE(isOnTop(table)) << press.x();
+    Release(table, bare);  // no click comes of it
+    Menu("About");
+  }
+}
+
 /// Takes the place of the user's mail program and browser.
 class Outside : public QObject {
   Q_OBJECT

@@ -17,6 +17,8 @@ TEST(Settings, AreWrittenToTheirFileAndNotMadeByReading) {
     store.Save("Thistle and Lantern", "Settings", key, text);
     store.Sync();
   };
+  // A file for all of the application's sections is somebody else's.
+  QSettings(QSettings::NativeFormat, QSettings::UserScope, "Thistle and Lantern").setValue("Stash0", "9");
   EXPECT_EQ(read("Stash0"), "none");
   store.Sync();
   QFile file(home.path() + "/Thistle and Lantern/Settings.conf");

@@ -81,4 +81,12 @@ TEST_F(Waiting, AQuestionHoldsUpTheWaitAroundItNoLongerThanItsAnswer) {
   EXPECT_GE(desktop.Clock(), end + 0.05) << "not before its answer";
 }
 
+TEST(Chance, IsTheSystemsAndNotAlwaysTheSame) {
+  desktop::qt::QtDesktop one, other;
+  for (auto* desktop : {&one, &other}) desktop->Randomize();
+  int same = 0;
+  for (int i = 0; i < 20; ++i) same += one.Random() == other.Random() ? 1 : 0;
+  EXPECT_LT(same, 5);
+}
+
 }  // namespace

@@ -51,4 +51,17 @@ TEST(Chance, NumbersStayBelowOneAndFollowTheSeed) {
   EXPECT_EQ(chance.Next(), desktop::common::Chance(1).Next());
 }
 
+TEST(Chance, StartsAnewFromTheClock) {
+  desktop::common::Chance one, other, seeded;
+  one.Randomize();
+  other.Randomize();
+  int same = 0, known = 0;
+  for (int i = 0; i < 20; ++i) {
+    const float number = one.Next();
+    same += number == other.Next() ? 1 : 0;
+    known += number == seeded.Next() ? 1 : 0;
+  }
+  EXPECT_LT(same + known, 5);
+}
+
 }  // namespace

@@ -135,4 +135,17 @@ TEST(Settlement, TripleOnASquareWithoutABetIsSilent) {
   EXPECT_EQ(Settle(play, {2, 2, 2}, WatchCaptions), (Lines{"0.000 Label1(1)=YOU LOSE", "1.000 Label1(1)="}));
 }
 
+TEST(Settlement, AfterALostSquareThePilesLieInFrontAgain) {
+  AtTable play;
+  ASSERT_TRUE(play.Bet(2, 0) && play.Bet(2, 1));
+  const auto& order = play.table().Graphics();
+  const Lines lines = Settle(play, {0, 2, 3}, [&](auto& recorder) {
+    recorder.WatchCaptions();
+    recorder.Watch("front", [&] { return std::string(order.back()->Name); });
+  });
+  const Lines wanted{"0.000 Label1(0)=WIN £1", "1.000 front=Payout", "1.250 Label1(1)=YOU LOSE", "2.250 front=Money"};
+  EXPECT_EQ(Lines(lines.begin(), lines.begin() + 5),
+            (Lines{wanted[0], wanted[1], "1.000 ELEVATOR", wanted[2], wanted[3]}));
+}
+
 }  // namespace
