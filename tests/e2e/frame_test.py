@@ -65,6 +65,15 @@ class Frame(unittest.TestCase):
             self.assertEqual(game.window.rect()[2:], (width, height))
             self.wait_for_exact(game)
 
+    @unittest.skipUnless(MANAGER == "openbox", "one manager is enough, and its frame is all in view")
+    def test_the_first_start_is_in_the_middle_of_what_panels_leave(self):
+        panel = self.desk.panel(width=200)
+        with Game(self.desk) as game:
+            left, top, width, _ = game.window.frame()
+            self.assertLessEqual(abs(left - (200 + (1280 - 200 - 640) // 2)), 1)
+            self.assertLessEqual(abs(top - 254), 1)
+        panel.destroy()
+
     def test_place_is_kept_without_creeping(self):
         seen = set()
         for run in range(5):

@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -10,6 +11,7 @@
 #include <map>
 #include <set>
 
+#include "Graphics/catalogue.h"
 #include "desktop/qt/question_box.h"
 #include "tests/qt/desk.h"
 #include "tests/qt/sheet.h"
@@ -125,6 +127,35 @@ TEST_F(Forms, TheOneShownOrPressedLastLiesOnTop) {
   }
 }
 
+TEST_F(Forms, KeepTheirRoomWhenTheUsersFontGrows) {
+  QMenuBar& menu = *desktop.window().findChild<QMenuBar*>();
+  const int before = menu.height();
+  for (const int points : {24, 11}) {
+    QFont font = menu.font();
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();  // one tells the next
+    EXPECT_TRUE(points == 11 || menu.height() > before + 5);
+    EXPECT_EQ(desktop.window().area().geometry(), QRect(0, menu.height(), 632, 406)) << points;
+    EXPECT_EQ(desktop.window().height(), menu.height() + 406) << points;
+  }
+  QApplication::setFont(QFont());
+}
+
+TEST(Pictures, EachOneLoadsInEveryScaleInWhichItIsCarried) {
+  for (const desktop::Picture* picture : thistle::AllPictures())
+    for (const char* scale : {"", "@1.25x", "@1.5x", "@1.75x", "@2x"}) {
+      const QString name = QString(":/pictures/%1%2.png").arg(picture->name.data(), scale);
+      const bool needed = *scale == '\0' || QString(scale) == "@2x";
+      if (!needed && !QFile::exists(name)) continue;
+      QImage image(name);
+      image.setDevicePixelRatio(1);
+      const double ratio = *scale == '\0' ? 1 : QString(scale).mid(1).chopped(1).toDouble();
+      EXPECT_EQ(image.size(), QSize(qRound(picture->width * ratio), qRound(picture->height * ratio)))
+          << name.toStdString();
+    }
+}
+
 /// Takes the place of the user's mail program and browser.
 class Outside : public QObject {
   Q_OBJECT
@@ -211,6 +242,19 @@ TEST_F(Forms, InstructionsSayWhatTheyShouldInTheirTypes) {
   // 16, 14 and 12 points are 21, 19 and 16 pixels.
   EXPECT_EQ(types, (std::set<QString>{"Liberation Serif 21biu#cc9900", "Liberation Serif 19biu#008000",
                                       "Liberation Serif 16#000000", "Liberation Serif 16u#0000ff"}));
+}
+
+using TwoScreens = OnDesk;
+
+TEST_F(TwoScreens, TheInstructionsPicturesAreSharpOnTheOneTheyAreSeenOn) {
+  Menu("Instructions");
+  auto& text = *ViewOf(frame.Help)->findChild<QTextEdit*>();
+  for (const QScreen* screen : {QGuiApplication::screens().last(), QGuiApplication::screens().first()}) {
+    desktop.window().move(screen->geometry().topLeft() + QPoint(40, 40));
+    for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+    const auto pixels = text.document()->resource(QTextDocument::ImageResource, QUrl("FaceHeart")).value<QPixmap>();
+    EXPECT_EQ(pixels.width(), 32 * screen->devicePixelRatio()) << screen->name().toStdString();
+  }
 }
 
 TEST_F(Forms, HaveColoursOfTheirOwnUnderAnyTheme) {

@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
   // Not the user's screen, settings or speakers.
   const QTemporaryDir home;
   for (const char* place : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) qputenv(place, home.path().toUtf8());
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   return RUN_ALL_TESTS();
 }

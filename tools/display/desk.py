@@ -173,6 +173,23 @@ class Desk:
         picture.paste(Image.frombytes("RGB", size, raw.data, "raw", "BGRX"), (x - left, y - top))
         return picture
 
+    def panel(self, width):
+        """A panel along the left side of the screen, which takes its width from the work area."""
+        atom = self.display.intern_atom
+        height = self.root.get_geometry().height
+        panel = self.root.create_window(0, 0, width, height, 0, X.CopyFromParent)
+        panel.change_property(atom("_NET_WM_WINDOW_TYPE"), Xatom.ATOM, 32, [atom("_NET_WM_WINDOW_TYPE_DOCK")])
+        panel.change_property(atom("_NET_WM_STRUT_PARTIAL"), Xatom.CARDINAL, 32,
+                              [width, 0, 0, 0, 0, height - 1] + [0] * 6)
+        panel.map()
+
+        def room_left():
+            area = self.root.get_full_property(atom("_NET_WORKAREA"), Xatom.CARDINAL)
+            return area and area.value[0] == width
+
+        wait_until("the panel's room", room_left)
+        return panel
+
     def windows(self, pid):
         """The process's windows on the screen, back to front."""
         owner = self.display.intern_atom("_NET_WM_PID")
