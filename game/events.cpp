@@ -8,7 +8,7 @@ using desktop::IsOneOf;
 bool frmGame::HoldsBack(const desktop::Element& element) const {
   // A step of an exchange shows and hides pieces by their count alone, and a throw in the middle of
   // one could find the money short. So nothing but the button itself reacts until it is over.
-  return exchanging_ > 0 && (IsOneOf(Money, element) || &element == &CupStanding);
+  return !exchanges_.empty() && (IsOneOf(Money, element) || &element == &CupStanding);
 }
 
 void frmGame::MouseDown(desktop::Element& element, int Button, float X, float Y) {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "desktop/form.h"
 #include "game/module1.h"
@@ -40,6 +41,11 @@ class frmGame : public desktop::Form {
   /// Waits `howlong` seconds while events run. Nested waits end before outer ones. Returns at once
   /// for 0 or less.
   void FixedDelay(double howlong);
+
+  // --- change.cpp
+  /// Pieces in the piles with all exchanges under way brought to their end, as they would end without a further
+  /// click. The same as MoneyCount while there is none.
+  Counts MoneyAfterExchanges() const;
 
   // --- load.cpp
   void Form_Load() override;
@@ -130,9 +136,13 @@ class frmGame : public desktop::Form {
   void BankPayouts();
 
   // --- change.cpp
+  /// A click on "Get Change" on its way.
+  struct Exchanging {
+    std::size_t breaking = 0;  ///< which of its two exchanges it is at
+    int owed = 0;              ///< pieces that this one has yet to deal out
+  };
   void Command1_Click();
-  void MakeChange();
-  void Exchange(int from, int to, int pieces);
+  void Exchange(int from, int to, std::size_t mine);
   void ShowChange();
 
   // --- money_display.cpp
@@ -168,7 +178,7 @@ class frmGame : public desktop::Form {
 
   Module1& module1_;
   int running_ = 0;
-  int exchanging_ = 0;
+  std::vector<Exchanging> exchanges_;  ///< one inside the other
   bool newGameWaits_ = false;
 };
 

@@ -14,15 +14,17 @@ inline constexpr int kDenominations = 3;
 /// Pounds per piece of each denomination: £10 note, £5 note, £1 coin.
 inline constexpr std::array<int, kDenominations> PieceValue{10, 5, 1};
 
+/// Pieces of each denomination. No upper limit in play; 64 bits hold more than any game can win.
+using Counts = std::array<std::int64_t, kDenominations>;
+
 struct Module1 {
   Module1(desktop::Desktop& services, desktop::Frame& main) : desktop(services), frmMain(main) {}
 
   desktop::Desktop& desktop;
   desktop::Frame& frmMain;
 
-  /// Pieces of each denomination in the player's piles, without those on the mat or in flight. No
-  /// upper limit in play; 64 bits hold more than any game can win.
-  std::array<std::int64_t, kDenominations> MoneyCount{};
+  /// In the player's piles, without those on the mat or in flight.
+  Counts MoneyCount{};
   /// The counts have been filled in this run: with a fresh stake, or with what the last run left.
   bool MoneyDealt = false;
   /// Pounds in the piles for each denomination, and their sum. As fresh as the last ShowTotals.

@@ -60,10 +60,10 @@ void frmMain::MDIForm_Unload() {
   module1.desktop.ReleaseMouse();
   module1.PlayResSound("doorshut");
   module1.SaveSetting(settings::kSoundOn, module1.SoundOn ? settings::kTrue : settings::kFalse);
-  // While nobody has filled the counts, what the run before stored stands.
+  // While nobody has filled the counts, what the run before stored stands. An exchange under way costs nothing.
+  const Counts money = Game.MoneyAfterExchanges();
   if (module1.MoneyDealt)
-    for (int d = 0; d < kDenominations; ++d)
-      module1.SaveSetting(settings::kStash[d], std::to_string(module1.MoneyCount[d]));
+    for (int d = 0; d < kDenominations; ++d) module1.SaveSetting(settings::kStash[d], std::to_string(money[d]));
   if (State == desktop::WindowState::Normal && HasPlace) {
     module1.SaveSetting(settings::kMainLeft, PlaceText(Left));
     module1.SaveSetting(settings::kMainTop, PlaceText(Top));

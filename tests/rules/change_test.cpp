@@ -1,6 +1,8 @@
 // "Get Change": when it is on offer, and the exchange.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "tests/simulated/ledger.h"
 #include "tests/simulated/recorder.h"
 
@@ -100,6 +102,32 @@ TEST(Change, PiecesAndCupWaitForItsEnd) {
   EXPECT_EQ(play.money().MoneyCount, (Counts{0, 2, 8}));
   ASSERT_TRUE(play.Drag(41, OnSquare(3)));
   EXPECT_EQ(play.table().BetValue[3], 1);
+}
+
+TEST(Change, WhoeverLeavesInTheMiddleOfItKeepsItsOutcome) {
+  constexpr int kNever = 1000;
+  // Clicks at some rests, each inside the exchange before; then the frame is closed at one rest after the other.
+  const auto play = [](const std::set<int>& clicks, int closing, bool& ended) {
+    AtTable run;
+    for (const int rest : clicks)
+      if (rest < closing) run.desktop.InRest(rest, [&run] { run.ClickChange(); });
+    run.desktop.InRest(closing, [&run] { run.Do([&run] { run.desktop.CloseFrame(); }); });
+    run.ClickChange();
+    ended = run.ended;
+    return ended ? simulated::StashOf(run.store) : run.money().MoneyCount;
+  };
+  for (const std::set<int>& clicks :
+       {std::set<int>{}, {2}, {5, 8}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, {9, 14, 20}}) {
+    bool ended = true;
+    int closing = 1;
+    for (; ended; ++closing) {
+      std::set<int> made(clicks.begin(), clicks.lower_bound(closing));
+      const Counts kept = play(made, closing, ended);
+      bool left = false;
+      EXPECT_EQ(kept, play(made, kNever, left)) << made.size() << " clicks, left at rest " << closing;
+    }
+    EXPECT_GT(closing, 9);
+  }
 }
 
 }  // namespace

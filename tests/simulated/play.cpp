@@ -15,6 +15,13 @@ Store Stashed(std::int64_t tens, std::int64_t fives, std::int64_t ones) {
   return {{at + "0", std::to_string(tens)}, {at + "1", std::to_string(fives)}, {at + "2", std::to_string(ones)}};
 }
 
+thistle::Counts StashOf(const Store& store) {
+  thistle::Counts counts{};
+  for (int d = 0; d < thistle::kDenominations; ++d)
+    counts[d] = std::stoll(store.at("Thistle and Lantern/Settings/Stash" + std::to_string(d)));
+  return counts;
+}
+
 bool Play::Do(const std::function<void()>& action) {
   if (ended) return false;
   try {

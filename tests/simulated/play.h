@@ -22,6 +22,10 @@ float SpinDraw(int groups);
 /// A store as a run leaves it that ends with these counts in its piles.
 Store Stashed(std::int64_t tens, std::int64_t fives, std::int64_t ones);
 
+/// The counts that a run has left.
+thistle::Counts StashOf(const Store& store);
+constexpr std::int64_t Pounds(const thistle::Counts& counts) { return 10 * counts[0] + 5 * counts[1] + counts[2]; }
+
 /// A point of the frame's client area, in pixels.
 struct Spot {
   float x;
