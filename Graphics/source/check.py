@@ -6,6 +6,11 @@ from PIL import Image, ImageColor
 import catalogue
 
 WOOD_MEAN = np.array([242, 198, 98])
+# The faces that the wood is squeezed to, and what must be left of it there: tones this far apart, so many colours.
+FACES = ((150, 81), (100, 26), (89, 25))
+GRAIN, COLOURS = 10, 400
+# How far the wood's finer picture stands apart from the single one enlarged.
+FINER = 3
 # An edge pixel may stray this far from the mixes of its ground and its own shape.
 STRAY = 30
 STRAYS_ALLOWED = 0.04
@@ -98,13 +103,20 @@ def luminance(pixels):
     return linear_light()[pixels[..., :3]] @ (0.2126, 0.7152, 0.0722)
 
 
-def wood_faults(pixels):
+def wood_faults(pixels, scale):
     mean = pixels[..., :3].mean(axis=(0, 1))
     if np.abs(mean - WOOD_MEAN).max() > 3:
         yield f"has the mean colour {np.rint(mean).astype(int).tolist()}"
     contrast = (luminance(pixels).min() + 0.05) / 0.05
     if contrast < 4.5:
         yield f"gives black text a contrast of only {contrast:.1f}"
+    board = Image.fromarray(pixels[..., :3].astype(np.uint8))
+    faces = [board.resize((across * scale, down * scale), Image.Resampling.BOX) for across, down in FACES]
+    colours = min(len(face.getcolors(face.width * face.height)) for face in faces)
+    if colours < COLOURS:
+        yield f"has only {colours} colours on a button"
+    if min(np.std(face.convert("L")) for face in faces) < GRAIN:
+        yield "shows no grain on a button"
 
 
 def file_faults(picture, folder, scale):
@@ -129,13 +141,20 @@ def file_faults(picture, folder, scale):
     if picture.maker in ("drawing", "coin"):
         yield from fringe_faults(picture, pixels)
     if picture.maker == "wood":
-        yield from wood_faults(pixels)
+        yield from wood_faults(pixels, scale)
 
 
 def blocks(file, size):
     with Image.open(file) as image:
         seen = image.convert("RGBA").convert("RGBa").resize(size, Image.Resampling.BOX)
         return np.asarray(seen, int)
+
+
+def sharpening(single, double):
+    """How much the picture at double scale shows that the single one, enlarged, does not."""
+    with Image.open(single) as coarse, Image.open(double) as fine:
+        enlarged = coarse.convert("L").resize(fine.size, Image.Resampling.BICUBIC)
+        return np.std(np.asarray(fine.convert("L"), int) - np.asarray(enlarged, int))
 
 
 def scale_faults(picture, folder):
@@ -146,6 +165,8 @@ def scale_faults(picture, folder):
     apart = np.abs(views[0] - views[-1]).max()
     if apart > UNLIKE:
         yield f"{files[-1].name} does not show what {files[0].name} shows"
+    if picture.maker == "wood" and sharpening(*files) < FINER:
+        yield f"{files[-1].name} is no finer than {files[0].name}"
 
 
 def source_faults(picture, recorded):

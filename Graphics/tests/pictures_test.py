@@ -12,7 +12,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "source"))
 
 import numpy as np
-from PIL import Image
+from PIL import Image, ImageFilter
 
 import catalogue
 import check
@@ -38,6 +38,11 @@ def symbol_cut_from_white(_):
     return Image.fromarray(pixels)
 
 
+def on_one_line_of_tones(image):
+    tone = np.asarray(image.convert("L"), float)[..., None]
+    return Image.fromarray(np.clip(check.WOOD_MEAN + (tone - tone.mean()) * (0.7, 1.1, 1.3), 0, 255).astype(np.uint8))
+
+
 # A picture, what becomes of its image at single scale, and what the check must say.
 SPOILED = [
     ("TenPound", lambda image: image.resize((59, 30)), "59 x 30, not 59 x 31"),
@@ -49,6 +54,8 @@ SPOILED = [
     ("ThistleLantern32", cut_from("#FFFFFF"), "fringe"),
     ("Wood", lambda image: image.paste((90, 60, 20), (0, 200, 400, 203)), "contrast"),
     ("Wood", lambda image: image.point(lambda tone: tone - 6).convert("RGB"), "mean colour"),
+    ("Wood", lambda image: image.convert("RGB").filter(ImageFilter.BoxBlur(9)), "no grain on a button"),
+    ("Wood", on_one_line_of_tones, "colours on a button"),
     ("FaceClub", lambda image: image.paste("white", (0, 0, *image.size)), "next to nothing"),
 ]
 # A file, what becomes of it, and what the check must say.
@@ -58,6 +65,8 @@ SPOILED_FILES = [
     ("Wood.png", lambda file: Image.open(file).convert("RGB").save(file, "JPEG"), "JPEG"),
     ("MatHeart@2x.png", lambda file: shutil.copy(ALL["MatSpade"].file(catalogue.PICTURES, 2), file),
      "does not show what MatHeart.png shows"),
+    ("Wood@2x.png", lambda file: Image.open(ALL["Wood"].file(catalogue.PICTURES, 1)).resize((800, 800)).save(file),
+     "no finer than Wood.png"),
 ]
 
 
@@ -68,7 +77,8 @@ class Spoiled(unittest.TestCase):
 
     def setUp(self):
         self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
-        self.pictures = [ALL[name] for name in self.names]
+        # A spoiled picture is not packed as well as a built one.
+        self.pictures = [dataclasses.replace(ALL[name], kilobytes=2 * ALL[name].kilobytes) for name in self.names]
         for picture in self.pictures:
             for scale in picture.scales:
                 shutil.copy(picture.file(catalogue.PICTURES, scale), self.folder)
