@@ -16,7 +16,9 @@ STRAY = 30
 STRAYS_ALLOWED = 0.04
 # The mean luminance that the soft edge of a dark outline never reaches.
 PALE = 0.16
-# The two scales of a picture, seen through blocks of this many pixels, differ less than this.
+# Of a shadow's black dots, so many may be mixed with the table where the die's own edge lies over them.
+SMEARED = 0.25
+# The scales of a picture, seen through blocks of this many pixels, differ less than this.
 BLOCK = 8
 UNLIKE = 48
 
@@ -45,7 +47,7 @@ def ground_faults(picture, pixels, scale):
         yield "must be opaque everywhere"
     if picture.ground != "opaque" and picture.clear:
         colour = ImageColor.getrgb(picture.ground)
-        frame = border(pixels[..., :3], picture.clear * scale)
+        frame = border(pixels[..., :3], int(picture.clear * scale))
         wrong = int((frame != colour).any(axis=1).sum())
         if wrong:
             yield f"shows {wrong} edge pixels that are not {picture.ground}"
@@ -119,6 +121,15 @@ def wood_faults(pixels, scale):
         yield "shows no grain on a button"
 
 
+def shadow_faults(pixels):
+    red, green, blue = (pixels[..., channel] for channel in range(3))
+    # Half dark, and still as yellow as the table.
+    mixed = (abs(red - green) < 8) & (abs(2 * blue - red) < 20) & (red > 30) & (red < 225)
+    dots = (pixels[..., :3] == 0).all(axis=2)
+    if mixed.sum() > SMEARED * max(dots.sum(), 100):
+        yield "has the dots of its shadow smeared"
+
+
 def file_faults(picture, folder, scale):
     file = picture.file(folder, scale)
     if not file.exists():
@@ -131,7 +142,7 @@ def file_faults(picture, folder, scale):
     except (OSError, ValueError) as error:
         yield f"cannot be read: {error}"
         return
-    size = (picture.width * scale, picture.height * scale)
+    size = picture.size(scale)
     if pixels.shape[1::-1] != size:
         yield "is {1} x {0}, not {2} x {3}".format(*pixels.shape[:2], *size)
         return
@@ -140,13 +151,17 @@ def file_faults(picture, folder, scale):
         yield "shows next to nothing"
     if picture.maker in ("drawing", "coin"):
         yield from fringe_faults(picture, pixels)
+    if picture.maker == "solid":
+        yield from shadow_faults(pixels)
     if picture.maker == "wood":
         yield from wood_faults(pixels, scale)
 
 
-def blocks(file, size):
-    with Image.open(file) as image:
-        seen = image.convert("RGBA").convert("RGBa").resize(size, Image.Resampling.BOX)
+def blocks(picture, folder, scale):
+    size = (-(-picture.width // BLOCK), -(-picture.height // BLOCK))
+    drawing = (0, 0, picture.width * scale, picture.height * scale)
+    with Image.open(picture.file(folder, scale)) as image:
+        seen = image.convert("RGBA").convert("RGBa").resize(size, Image.Resampling.BOX, box=drawing)
         return np.asarray(seen, int)
 
 
@@ -158,13 +173,12 @@ def sharpening(single, double):
 
 
 def scale_faults(picture, folder):
-    """Tells when the two scales do not show the same, as after a mix-up of files."""
+    """Tells when two scales do not show the same, as after a mix-up of files."""
     files = [picture.file(folder, scale) for scale in picture.scales]
-    size = (-(-picture.width // BLOCK), -(-picture.height // BLOCK))
-    views = [blocks(file, size) for file in files]
-    apart = np.abs(views[0] - views[-1]).max()
-    if apart > UNLIKE:
-        yield f"{files[-1].name} does not show what {files[0].name} shows"
+    views = [blocks(picture, folder, scale) for scale in picture.scales]
+    for file, view in zip(files[1:], views[1:]):
+        if np.abs(views[0] - view).max() > UNLIKE:
+            yield f"{file.name} does not show what {files[0].name} shows"
     if picture.maker == "wood" and sharpening(*files) < FINER:
         yield f"{files[-1].name} is no finer than {files[0].name}"
 

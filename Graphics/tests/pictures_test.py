@@ -56,6 +56,7 @@ SPOILED = [
     ("Wood", lambda image: image.point(lambda tone: tone - 6).convert("RGB"), "mean colour"),
     ("Wood", lambda image: image.convert("RGB").filter(ImageFilter.BoxBlur(9)), "no grain on a button"),
     ("Wood", on_one_line_of_tones, "colours on a button"),
+    ("Anidice00", lambda image: image.filter(ImageFilter.BoxBlur(1)), "smeared"),
     ("FaceClub", lambda image: image.paste("white", (0, 0, *image.size)), "next to nothing"),
 ]
 # A file, what becomes of it, and what the check must say.
@@ -65,6 +66,9 @@ SPOILED_FILES = [
     ("Wood.png", lambda file: Image.open(file).convert("RGB").save(file, "JPEG"), "JPEG"),
     ("MatHeart@2x.png", lambda file: shutil.copy(ALL["MatSpade"].file(catalogue.PICTURES, 2), file),
      "does not show what MatHeart.png shows"),
+    ("Anidice00@1.25x.png", lambda file: Image.open(file).crop((0, 0, 115, 131)).save(file), "115 x 131, not 115 x 132"),
+    ("Anidice00@1.5x.png", lambda file: shutil.copy(ALL["Anidice04"].file(catalogue.PICTURES, 1.5), file),
+     "does not show what Anidice00.png shows"),
     ("Wood@2x.png", lambda file: Image.open(ALL["Wood"].file(catalogue.PICTURES, 1)).resize((800, 800)).save(file),
      "no finer than Wood.png"),
 ]
@@ -73,7 +77,7 @@ SPOILED_FILES = [
 class Spoiled(unittest.TestCase):
     """Works on a copy of a few pictures in a folder of its own."""
 
-    names = ("MatHeart", "FaceClub", "ThistleLantern32", "OnePound", "TenPound", "Wood")
+    names = ("MatHeart", "FaceClub", "ThistleLantern32", "OnePound", "TenPound", "Wood", "Anidice00")
 
     def setUp(self):
         self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
@@ -117,9 +121,9 @@ class Spoiled(unittest.TestCase):
     def test_source_changed_moved_or_gone(self):
         self.addCleanup(setattr, catalogue, "SOURCE", catalogue.SOURCE)
         catalogue.SOURCE = shutil.copytree(catalogue.SOURCE, self.folder / "source")
-        heart = catalogue.SOURCE / "symbols/heart.svg"
-        heart.write_text(heart.read_text() + "\n")
-        self.expect("MatHeart", "source changed")
+        note = catalogue.SOURCE / "ten-pound.svg"
+        note.write_text(note.read_text() + "\n")
+        self.expect("TenPound", "source changed")
         catalogue.write_hashes(self.pictures, self.folder)
         self.pictures[0] = dataclasses.replace(self.pictures[0], box=[7, 2, 88, 88])
         self.expect("MatHeart", "source changed")
@@ -137,6 +141,26 @@ class Notes(unittest.TestCase):
         self.assertGreater(np.linalg.norm(tones[0] - tones[1]), 40)
         for strip in strips:
             self.assertGreater(np.ptp(check.luminance(strip)), 0.5, "the number is faint")
+
+
+class Solids(unittest.TestCase):
+    @staticmethod
+    def seen(name):
+        with Image.open(ALL[name].file(catalogue.PICTURES, 1)) as picture:
+            return np.asarray(picture.convert("RGB"), int)
+
+    def test_every_step_of_the_tumble_turns_the_die_as_far(self):
+        frames = [self.seen(f"Anidice{step:02}") for step in range(24)]
+        steps = [np.abs(one - other).mean() for one, other in zip(frames, frames[1:] + frames[:1])]
+        self.assertLess(np.std(steps) / np.mean(steps), 0.15, steps)
+
+    def test_a_die_leaves_the_thrown_cup_only(self):
+        printed = {}
+        for name in ("CupStanding", "CupCentre", "CupLeft", "CupRight", "CupThrow"):
+            red, green, blue = np.moveaxis(self.seen(name), 2, 0)
+            printed[name] = ((red > 120) & (green < 60) & (blue < 90)).sum()
+        self.assertGreater(printed.pop("CupThrow"), 25)
+        self.assertEqual(set(printed.values()), {0}, printed)
 
 
 if __name__ == "__main__":
