@@ -14,8 +14,11 @@ FINER = 3
 # An edge pixel may stray this far from the mixes of its ground and its own shape.
 STRAY = 30
 STRAYS_ALLOWED = 0.04
-# The mean luminance that the soft edge of a dark outline never reaches.
-PALE = 0.16
+# More blue than the soft edge of gold or black has on an average.
+BLUE = 48
+# The emblem fills so much of its width, and of its outermost pixels only so few are dark.
+FILLED = 0.85
+DARK, DARK_ALLOWED = 0.08, 0.04
 # Of a shadow's black dots, so many may be mixed with the table where the die's own edge lies over them.
 SMEARED = 0.25
 # The scales of a picture, seen through blocks of this many pixels, differ less than this.
@@ -55,7 +58,7 @@ def ground_faults(picture, pixels, scale):
 
 def neighbours(array, reach):
     """The array as seen from each pixel within reach, edges repeated."""
-    padded = np.pad(array, ((reach, reach), (reach, reach), (0, 0)), mode="edge")
+    padded = np.pad(array, [(reach, reach)] * 2 + [(0, 0)] * (array.ndim - 2), mode="edge")
     rows, columns = array.shape[:2]
     for down in range(2 * reach + 1):
         for right in range(2 * reach + 1):
@@ -86,14 +89,29 @@ def stray_share(pixels, ground):
 def fringe_faults(picture, pixels):
     if picture.ground == "transparent":
         alpha = pixels[..., 3]
-        # All clear pictures end in a dark line: a pale edge is left from another ground.
-        soft = luminance(pixels)[(alpha >= 32) & (alpha <= 160)]
-        if soft.size and soft.mean() > PALE:
-            yield f"has a pale fringe of luminance {soft.mean():.2f}"
+        # All clear pictures are gold or black at their edges: paleness is left from another ground.
+        soft = pixels[(alpha >= 32) & (alpha <= 160)]
+        if len(soft) and soft[:, 2].mean() > BLUE:
+            yield f"has a pale fringe with a blue of {soft[:, 2].mean():.0f}"
         return
     share = stray_share(pixels, np.array(ImageColor.getrgb(picture.ground), float))
     if share > STRAYS_ALLOWED:
         yield f"has a fringe of another ground on {share:.0%} of its edge"
+
+
+def emblem_faults(pixels):
+    solid = pixels[..., 3] >= 128
+    across = np.flatnonzero(solid.any(axis=0))
+    filled = (across[-1] + 1 - across[0]) / pixels.shape[1]
+    if filled < FILLED:
+        yield f"fills only {filled:.0%} of its width"
+    beside = list(neighbours(pixels[..., 3], 1))[1::2]
+    open_to_ground = (np.array(beside) < 64).any(axis=0)
+    dark = (luminance(pixels[solid & open_to_ground]) < DARK).mean()
+    if dark > DARK_ALLOWED:
+        yield f"is dark on {dark:.0%} of its outline, where gold should part it from a dark ground"
+    if (pixels[..., 1] > pixels[..., 0])[solid].any():
+        yield "is not in gold and black alone"
 
 
 def linear_light():
@@ -149,8 +167,10 @@ def file_faults(picture, folder, scale):
     yield from ground_faults(picture, pixels, scale)
     if len(np.unique(pixels @ (1 << 24, 1 << 16, 1 << 8, 1))) < 8:
         yield "shows next to nothing"
-    if picture.maker in ("drawing", "coin"):
+    if picture.maker in ("drawing", "coin", "emblem"):
         yield from fringe_faults(picture, pixels)
+    if picture.maker == "emblem":
+        yield from emblem_faults(pixels)
     if picture.maker == "solid":
         yield from shadow_faults(pixels)
     if picture.maker == "wood":

@@ -38,6 +38,15 @@ def symbol_cut_from_white(_):
     return Image.fromarray(pixels)
 
 
+def edged(image, paint):
+    """The picture with its outermost pixels painted."""
+    inside = image.getchannel("A").filter(ImageFilter.MinFilter(3))
+    painted = Image.new("RGBA", image.size, paint)
+    painted.putalpha(image.getchannel("A"))
+    painted.paste(image, mask=inside)
+    return painted
+
+
 def on_one_line_of_tones(image):
     tone = np.asarray(image.convert("L"), float)[..., None]
     return Image.fromarray(np.clip(check.WOOD_MEAN + (tone - tone.mean()) * (0.7, 1.1, 1.3), 0, 255).astype(np.uint8))
@@ -52,6 +61,9 @@ SPOILED = [
     ("OnePound", lambda image: image.putpixel((19, 19), (255, 255, 255, 255)), "corner"),
     ("OnePound", cut_from("#FFFF80"), "fringe"),
     ("ThistleLantern32", cut_from("#FFFFFF"), "fringe"),
+    ("ThistleLantern32", lambda image: edged(image, (10, 10, 10)), "dark on"),
+    ("ThistleLantern32", lambda image: edged(image, (140, 150, 30)), "gold and black alone"),
+    ("ThistleLantern32", lambda image: image.paste((0, 0, 0, 0), (0, 0, 8, 32)), "of its width"),
     ("Wood", lambda image: image.paste((90, 60, 20), (0, 200, 400, 203)), "contrast"),
     ("Wood", lambda image: image.point(lambda tone: tone - 6).convert("RGB"), "mean colour"),
     ("Wood", lambda image: image.convert("RGB").filter(ImageFilter.BoxBlur(9)), "no grain on a button"),
