@@ -19,7 +19,7 @@ def drawn(picture, scale):
 
 def engraved(picture, scale):
     svg = engraving.engraved(SOURCE / picture.sources[0])
-    art = raster.render_svg(svg, *picture.size(scale))
+    art = raster.render_svg(svg, *picture.size(scale), oversample=1)
     return art.convert("RGB")
 
 

@@ -143,16 +143,38 @@ class Spoiled(unittest.TestCase):
         self.expect("MatHeart", "no source symbols/hart.svg")
 
 
+# How somebody sees light who lacks the first, the second or the third kind of cones.
+COLOUR_BLIND = (((0.152, 1.053, -0.205), (0.115, 0.786, 0.099), (-0.004, -0.048, 1.052)),
+                ((0.367, 0.861, -0.228), (0.280, 0.673, 0.047), (-0.012, 0.043, 0.969)),
+                ((1.256, -0.077, -0.179), (-0.078, 0.931, 0.148), (0.005, 0.691, 0.304)))
+
+
 class Notes(unittest.TestCase):
+    @staticmethod
+    def seen(name, scale):
+        with Image.open(ALL[name].file(catalogue.PICTURES, scale)) as note:
+            return np.asarray(note.convert("RGB"), int)
+
     def test_covered_notes_are_told_apart_by_their_left_strip(self):
-        strips = []
-        for name in ("TenPound", "FivePound"):
-            with Image.open(ALL[name].file(catalogue.PICTURES, 1)) as note:
-                strips.append(np.asarray(note.convert("RGB"))[:28, 1:8])
-        tones = [strip.mean(axis=(0, 1)) for strip in strips]
-        self.assertGreater(np.linalg.norm(tones[0] - tones[1]), 40)
+        strips = [self.seen(name, 1)[:28, 1:8] for name in ("TenPound", "FivePound")]
+        light = [check.linear_light()[strip].mean(axis=(0, 1)) for strip in strips]
+        for sight in (np.identity(3), *COLOUR_BLIND):
+            brighter = (sight @ light[1]).sum() / (sight @ light[0]).sum()
+            self.assertGreater(brighter, 2, "dark brown, pale green")
         for strip in strips:
             self.assertGreater(np.ptp(check.luminance(strip)), 0.5, "the number is faint")
+
+    def test_nothing_runs_over_the_frame(self):
+        for name in ("TenPound", "FivePound"):
+            for scale in (1, 2):
+                frame = check.border(self.seen(name, scale), scale)
+                self.assertLess(np.ptp(frame, axis=0).max(), 8, f"{name} at {scale}")
+
+    def test_vignettes_are_cut_in_lines(self):
+        for name in ("TenPound", "FivePound"):
+            vignette = check.luminance(self.seen(name, 2))[6:50, 60:100]
+            # Lines lie in every second row; without them neighbouring rows are much alike.
+            self.assertGreater(np.abs(np.diff(vignette.mean(axis=1))).mean(), 0.1, name)
 
 
 class Solids(unittest.TestCase):
