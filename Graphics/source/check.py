@@ -6,9 +6,10 @@ from PIL import Image, ImageColor
 import catalogue
 
 WOOD_MEAN = np.array([242, 198, 98])
-# The faces that the wood is squeezed to, and what must be left of it there: tones this far apart, so many colours.
+# The button faces that the wood is squeezed to, and what must be left of it there: how far
+# tones stray from their mean, and how many colours.
 FACES = ((150, 81), (100, 26), (89, 25))
-GRAIN, COLOURS = 10, 400
+GRAIN, COLOURS = 11, 400
 # How far the wood's finer picture stands apart from the single one enlarged.
 FINER = 3
 # An edge pixel may stray this far from the mixes of its ground and its own shape.
@@ -19,11 +20,13 @@ BLUE = 48
 # The emblem fills so much of its width, and of its outermost pixels only so few are dark.
 FILLED = 0.85
 DARK, DARK_ALLOWED = 0.08, 0.04
-# Of a shadow's black dots, so many may be mixed with the table where the die's own edge lies over them.
+# So many half dark pixels to a shadow's black ones are the die's own soft edge.
 SMEARED = 0.25
 # The scales of a picture, seen through blocks of this many pixels, differ less than this.
 BLOCK = 8
 UNLIKE = 48
+# What all pictures together may add to the program.
+BYTES = 1_750_000
 
 
 def opened(file):
@@ -131,7 +134,8 @@ def wood_faults(pixels, scale):
     if contrast < 4.5:
         yield f"gives black text a contrast of only {contrast:.1f}"
     board = Image.fromarray(pixels[..., :3].astype(np.uint8))
-    faces = [board.resize((across * scale, down * scale), Image.Resampling.BOX) for across, down in FACES]
+    faces = [board.resize((across * scale, down * scale), Image.Resampling.BOX)
+             for across, down in FACES]
     colours = min(len(face.getcolors(face.width * face.height)) for face in faces)
     if colours < COLOURS:
         yield f"has only {colours} colours on a button"
@@ -225,6 +229,9 @@ def faults(pictures, folder):
     for picture in pictures:
         yield from picture_faults(picture, folder)
         yield from source_faults(picture, recorded)
+    together = sum(file.stat().st_size for file in folder.glob("*.png"))
+    if together > BYTES:
+        yield f"all pictures together take {together / 1e6:.2f} MB"
     known = {picture.file(folder, scale) for picture in pictures for scale in picture.scales}
     for stranger in sorted(set(folder.glob("*.png")) - known):
         yield f"{stranger.name} is not in the catalogue"

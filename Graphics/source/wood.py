@@ -36,7 +36,7 @@ def rings(board):
     """The number of the year's ring at each place: a plane sawn from a tapering log."""
     beside = board.down - 0.56 + 0.025 * board.noise(3, 2)
     depth = 0.05 + 0.62 * board.across + 0.02 * board.noise(4, 3)
-    return 15 * np.hypot(beside, 0.5 * depth) + 0.13 * board.noise(3, 9)
+    return 11 * np.hypot(beside, 0.5 * depth) + 0.13 * board.noise(3, 9)
 
 
 def late_wood(count):
@@ -60,7 +60,7 @@ def darkness():
     board = Board()
     count = rings(board)
     begins = 0.25 + 0.75 * (count - np.floor(count) < 0.4)
-    dark = -0.70 + 1.9 * late_wood(count) * (0.85 + 0.2 * board.noise(2, 9))
+    dark = -0.66 + 1.8 * late_wood(count) * (0.85 + 0.2 * board.noise(2, 9))
     dark += 0.22 * board.noise(2, 4) + 0.10 * board.noise(9, 120) + 0.11 * board.noise(30, 420)
     return dark + pores(board) * begins, board.noise(2, 5)
 

@@ -7,6 +7,7 @@ import sys
 import tempfile
 import unittest
 from pathlib import Path
+from unittest import mock
 
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "source"))
@@ -49,7 +50,8 @@ def edged(image, paint):
 
 def on_one_line_of_tones(image):
     tone = np.asarray(image.convert("L"), float)[..., None]
-    return Image.fromarray(np.clip(check.WOOD_MEAN + (tone - tone.mean()) * (0.7, 1.1, 1.3), 0, 255).astype(np.uint8))
+    colours = check.WOOD_MEAN + (tone - tone.mean()) * (0.7, 1.1, 1.3)
+    return Image.fromarray(np.clip(colours, 0, 255).astype(np.uint8))
 
 
 # A picture, what becomes of its image at single scale, and what the check must say.
@@ -66,7 +68,7 @@ SPOILED = [
     ("ThistleLantern32", lambda image: image.paste((0, 0, 0, 0), (0, 0, 8, 32)), "of its width"),
     ("Wood", lambda image: image.paste((90, 60, 20), (0, 200, 400, 203)), "contrast"),
     ("Wood", lambda image: image.point(lambda tone: tone - 6).convert("RGB"), "mean colour"),
-    ("Wood", lambda image: image.convert("RGB").filter(ImageFilter.BoxBlur(9)), "no grain on a button"),
+    ("Wood", lambda image: image.convert("RGB").filter(ImageFilter.BoxBlur(9)), "no grain"),
     ("Wood", on_one_line_of_tones, "colours on a button"),
     ("Anidice00", lambda image: image.filter(ImageFilter.BoxBlur(1)), "smeared"),
     ("FaceClub", lambda image: image.paste("white", (0, 0, *image.size)), "next to nothing"),
@@ -78,10 +80,13 @@ SPOILED_FILES = [
     ("Wood.png", lambda file: Image.open(file).convert("RGB").save(file, "JPEG"), "JPEG"),
     ("MatHeart@2x.png", lambda file: shutil.copy(ALL["MatSpade"].file(catalogue.PICTURES, 2), file),
      "does not show what MatHeart.png shows"),
-    ("Anidice00@1.25x.png", lambda file: Image.open(file).crop((0, 0, 115, 131)).save(file), "115 x 131, not 115 x 132"),
-    ("Anidice00@1.5x.png", lambda file: shutil.copy(ALL["Anidice04"].file(catalogue.PICTURES, 1.5), file),
+    ("Anidice00@1.25x.png", lambda file: Image.open(file).crop((0, 0, 115, 131)).save(file),
+     "115 x 131, not 115 x 132"),
+    ("Anidice00@1.5x.png",
+     lambda file: shutil.copy(ALL["Anidice04"].file(catalogue.PICTURES, 1.5), file),
      "does not show what Anidice00.png shows"),
-    ("Wood@2x.png", lambda file: Image.open(ALL["Wood"].file(catalogue.PICTURES, 1)).resize((800, 800)).save(file),
+    ("Wood@2x.png",
+     lambda file: Image.open(file.with_name("Wood.png")).resize((800, 800)).save(file),
      "no finer than Wood.png"),
 ]
 
@@ -89,12 +94,14 @@ SPOILED_FILES = [
 class Spoiled(unittest.TestCase):
     """Works on a copy of a few pictures in a folder of its own."""
 
-    names = ("MatHeart", "FaceClub", "ThistleLantern32", "OnePound", "TenPound", "Wood", "Anidice00")
+    names = ("MatHeart", "FaceClub", "ThistleLantern32", "OnePound", "TenPound", "Wood",
+             "Anidice00")
 
     def setUp(self):
         self.folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
         # A spoiled picture is not packed as well as a built one.
-        self.pictures = [dataclasses.replace(ALL[name], kilobytes=2 * ALL[name].kilobytes) for name in self.names]
+        self.pictures = [dataclasses.replace(ALL[name], kilobytes=2 * ALL[name].kilobytes)
+                         for name in self.names]
         for picture in self.pictures:
             for scale in picture.scales:
                 shutil.copy(picture.file(catalogue.PICTURES, scale), self.folder)
@@ -125,6 +132,10 @@ class Spoiled(unittest.TestCase):
                 spoil(file)
                 self.expect(name, fault)
             file.write_bytes(good)
+
+    def test_all_together(self):
+        with mock.patch.object(check, "BYTES", 200_000):
+            self.expect("all pictures together take")
 
     def test_stranger(self):
         shutil.copy(self.folder / "Wood.png", self.folder / "Would.png")

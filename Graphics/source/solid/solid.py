@@ -24,8 +24,8 @@ STEPS = 24
 DIE_EDGE_ROUNDING = 0.27
 SYMBOL_PIXELS = 512
 
-# Lean to the right and turn towards the player in degrees; the place of the cup's middle in the picture;
-# whether a die shows in its mouth.
+# Lean to the right and turn towards the player in degrees; the place of the cup's middle in the
+# picture; whether a die shows in its mouth.
 CUPS = {
     "CupStanding": (0, 0, (57, 54), False),
     "CupCentre": (0, 0, (44.5, 54), False),
@@ -127,7 +127,7 @@ def dithered(density):
 
 
 def overlaps(pixels, span):
-    """How much of each run of so many pixels falls into each, the last run perhaps beyond the end."""
+    """The share of each pixel in each run of so many; the last run may end beyond the last."""
     starts = np.arange(math.ceil(pixels / span - 1e-9))[:, None] * span
     pixel = np.arange(pixels)[None, :]
     shared = np.minimum(starts + span, pixel + 1) - np.maximum(starts, pixel)
@@ -156,7 +156,7 @@ def compose(body, light, scale):
 
 
 def packed(pixels):
-    """The picture in 256 colours, among which the ground and the shadow's black are kept as they are."""
+    """The picture in 256 colours, with the ground and the shadow's black among them as they are."""
     bare, black = ((pixels == colour).all(axis=2) for colour in (GROUND, 0))
     body = ~bare & ~black
     strip = Image.fromarray(pixels[body][None]).quantize(254, kmeans=3, dither=Image.Dither.NONE)
