@@ -10,7 +10,7 @@ from raster import render_svg
 
 # Tones of a vignette are sampled so many times a unit.
 SAMPLES = 16
-# An engraver has few tones: how much of its pitch a line fills, from bare paper to full ink.
+# An engraver has few tones: how wide a line is for each, from bare paper to full ink.
 WIDTHS = np.array([0, 0.2, 0.42, 0.66, 1.0])
 
 
@@ -58,8 +58,8 @@ def runs(inked):
     return zip(edges[::2], edges[1::2])
 
 
-def shaded(drawing, pitch):
-    """A grey drawing turned into lines so far apart, whose width carries its tone."""
+def shaded(drawing):
+    """A grey drawing turned into lines one unit apart, whose width carries its tone."""
     width, height = view_box(drawing.read_text())
     grey = render_svg(drawing, round(width * SAMPLES), round(height * SAMPLES), oversample=1)
     pixels = np.asarray(grey, float) / 255
@@ -67,10 +67,10 @@ def shaded(drawing, pitch):
     tones = WIDTHS[np.rint(dark * (len(WIDTHS) - 1)).astype(int)]
     along = (np.arange(tones.shape[1]) + 0.5) / SAMPLES
     paths = []
-    for line in range(int(height / pitch)):
+    for line in range(int(height)):
         # At double scale a line and its gap have a row of pixels each.
-        middle = (line + 0.25) * pitch
-        breadths = pitch * tones[int(middle * SAMPLES)] / 2
+        middle = line + 0.25
+        breadths = tones[int(middle * SAMPLES)] / 2
         for start, end in runs(breadths > 0):
             upper = [(along[at], middle - breadths[at]) for at in range(start, end, 2)]
             lower = [(x, 2 * middle - y) for x, y in reversed(upper)]
@@ -90,4 +90,4 @@ def engraved(drawing):
     return Template(text).substitute(
         waves=waves(10, width - 3, 3, height - 3, 11),
         rosette=rosette((0, 0), (10, 6.4), 1.6, 9, 6),
-        shading=shaded(vignette, 1))
+        shading=shaded(vignette))

@@ -6,7 +6,7 @@ from PIL import Image
 SEED = 1907
 # The board is cut this fine and then reduced, so that the finer picture shows finer pores.
 CUT = 1600
-# Darkness and its colour: sapwood, the mean, late wood and pore.
+# Darkness and its colour: sapwood, the mean, late wood where it begins and ends, pores.
 DARKNESS = (-1.0, 0.0, 1.0, 2.0, 3.2)
 COLOURS = ((255, 224, 136), (247, 205, 106), (217, 160, 62), (186, 124, 42), (152, 98, 34))
 MEAN = np.array([242, 198, 98])

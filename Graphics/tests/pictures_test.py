@@ -154,6 +154,11 @@ class Spoiled(unittest.TestCase):
         self.expect("MatHeart", "no source symbols/hart.svg")
 
 
+def seen(name, scale=1):
+    with Image.open(ALL[name].file(catalogue.PICTURES, scale)) as picture:
+        return np.asarray(picture.convert("RGB"), int)
+
+
 # How somebody sees light who lacks the first, the second or the third kind of cones.
 COLOUR_BLIND = (((0.152, 1.053, -0.205), (0.115, 0.786, 0.099), (-0.004, -0.048, 1.052)),
                 ((0.367, 0.861, -0.228), (0.280, 0.673, 0.047), (-0.012, 0.043, 0.969)),
@@ -161,13 +166,8 @@ COLOUR_BLIND = (((0.152, 1.053, -0.205), (0.115, 0.786, 0.099), (-0.004, -0.048,
 
 
 class Notes(unittest.TestCase):
-    @staticmethod
-    def seen(name, scale):
-        with Image.open(ALL[name].file(catalogue.PICTURES, scale)) as note:
-            return np.asarray(note.convert("RGB"), int)
-
     def test_covered_notes_are_told_apart_by_their_left_strip(self):
-        strips = [self.seen(name, 1)[:28, 1:8] for name in ("TenPound", "FivePound")]
+        strips = [seen(name)[:28, 1:8] for name in ("TenPound", "FivePound")]
         light = [check.linear_light()[strip].mean(axis=(0, 1)) for strip in strips]
         for sight in (np.identity(3), *COLOUR_BLIND):
             brighter = (sight @ light[1]).sum() / (sight @ light[0]).sum()
@@ -178,31 +178,26 @@ class Notes(unittest.TestCase):
     def test_nothing_runs_over_the_frame(self):
         for name in ("TenPound", "FivePound"):
             for scale in (1, 2):
-                frame = check.border(self.seen(name, scale), scale)
+                frame = check.border(seen(name, scale), scale)
                 self.assertLess(np.ptp(frame, axis=0).max(), 8, f"{name} at {scale}")
 
     def test_vignettes_are_cut_in_lines(self):
         for name in ("TenPound", "FivePound"):
-            vignette = check.luminance(self.seen(name, 2))[6:50, 60:100]
+            vignette = check.luminance(seen(name, 2))[6:50, 60:100]
             # Lines lie in every second row; without them neighbouring rows are much alike.
             self.assertGreater(np.abs(np.diff(vignette.mean(axis=1))).mean(), 0.1, name)
 
 
 class Solids(unittest.TestCase):
-    @staticmethod
-    def seen(name):
-        with Image.open(ALL[name].file(catalogue.PICTURES, 1)) as picture:
-            return np.asarray(picture.convert("RGB"), int)
-
     def test_every_step_of_the_tumble_turns_the_die_as_far(self):
-        frames = [self.seen(f"Anidice{step:02}") for step in range(24)]
+        frames = [seen(f"Anidice{step:02}") for step in range(24)]
         steps = [np.abs(one - other).mean() for one, other in zip(frames, frames[1:] + frames[:1])]
         self.assertLess(np.std(steps) / np.mean(steps), 0.15, steps)
 
     def test_a_die_leaves_the_thrown_cup_only(self):
         printed = {}
         for name in ("CupStanding", "CupCentre", "CupLeft", "CupRight", "CupThrow"):
-            red, green, blue = np.moveaxis(self.seen(name), 2, 0)
+            red, green, blue = np.moveaxis(seen(name), 2, 0)
             printed[name] = ((red > 120) & (green < 60) & (blue < 90)).sum()
         self.assertGreater(printed.pop("CupThrow"), 25)
         self.assertEqual(set(printed.values()), {0}, printed)
