@@ -2,6 +2,7 @@
 
 import hashlib
 import json
+import math
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -25,10 +26,15 @@ class Picture:
     box: tuple = ()
     # How many pixels deep the edges show nothing but ground.
     clear: int = 0
+    # A picture that would suffer from being scaled at run time is carried in more of them.
     scales: tuple = (1, 2)
 
     def file(self, folder, scale):
-        return folder / f"{self.name}{'' if scale == 1 else '@2x'}.png"
+        return folder / f"{self.name}{'' if scale == 1 else f'@{scale}x'}.png"
+
+    def size(self, scale):
+        """In pixels; where the drawing ends within one, its ground fills the rest."""
+        return math.ceil(self.width * scale), math.ceil(self.height * scale)
 
     def source_files(self):
         found = []

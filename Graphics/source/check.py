@@ -6,14 +6,27 @@ from PIL import Image, ImageColor
 import catalogue
 
 WOOD_MEAN = np.array([242, 198, 98])
+# The button faces that the wood is squeezed to, and what must be left of it there: how far
+# tones stray from their mean, and how many colours.
+FACES = ((150, 81), (100, 26), (89, 25))
+GRAIN, COLOURS = 11, 400
+# How far the wood's finer picture stands apart from the single one enlarged.
+FINER = 3
 # An edge pixel may stray this far from the mixes of its ground and its own shape.
 STRAY = 30
 STRAYS_ALLOWED = 0.04
-# The mean luminance that the soft edge of a dark outline never reaches.
-PALE = 0.16
-# The two scales of a picture, seen through blocks of this many pixels, differ less than this.
+# More blue than the soft edge of gold or black has on an average.
+BLUE = 48
+# The emblem fills so much of its width, and of its outermost pixels only so few are dark.
+FILLED = 0.85
+DARK, DARK_ALLOWED = 0.08, 0.04
+# So many half dark pixels to a shadow's black ones are the die's own soft edge.
+SMEARED = 0.25
+# The scales of a picture, seen through blocks of this many pixels, differ less than this.
 BLOCK = 8
 UNLIKE = 48
+# What all pictures together may add to the program.
+BYTES = 1_750_000
 
 
 def opened(file):
@@ -40,7 +53,7 @@ def ground_faults(picture, pixels, scale):
         yield "must be opaque everywhere"
     if picture.ground != "opaque" and picture.clear:
         colour = ImageColor.getrgb(picture.ground)
-        frame = border(pixels[..., :3], picture.clear * scale)
+        frame = border(pixels[..., :3], int(picture.clear * scale))
         wrong = int((frame != colour).any(axis=1).sum())
         if wrong:
             yield f"shows {wrong} edge pixels that are not {picture.ground}"
@@ -48,7 +61,7 @@ def ground_faults(picture, pixels, scale):
 
 def neighbours(array, reach):
     """The array as seen from each pixel within reach, edges repeated."""
-    padded = np.pad(array, ((reach, reach), (reach, reach), (0, 0)), mode="edge")
+    padded = np.pad(array, [(reach, reach)] * 2 + [(0, 0)] * (array.ndim - 2), mode="edge")
     rows, columns = array.shape[:2]
     for down in range(2 * reach + 1):
         for right in range(2 * reach + 1):
@@ -79,14 +92,29 @@ def stray_share(pixels, ground):
 def fringe_faults(picture, pixels):
     if picture.ground == "transparent":
         alpha = pixels[..., 3]
-        # All clear pictures end in a dark line: a pale edge is left from another ground.
-        soft = luminance(pixels)[(alpha >= 32) & (alpha <= 160)]
-        if soft.size and soft.mean() > PALE:
-            yield f"has a pale fringe of luminance {soft.mean():.2f}"
+        # All clear pictures are gold or black at their edges: paleness is left from another ground.
+        soft = pixels[(alpha >= 32) & (alpha <= 160)]
+        if len(soft) and soft[:, 2].mean() > BLUE:
+            yield f"has a pale fringe with a blue of {soft[:, 2].mean():.0f}"
         return
     share = stray_share(pixels, np.array(ImageColor.getrgb(picture.ground), float))
     if share > STRAYS_ALLOWED:
         yield f"has a fringe of another ground on {share:.0%} of its edge"
+
+
+def emblem_faults(pixels):
+    solid = pixels[..., 3] >= 128
+    across = np.flatnonzero(solid.any(axis=0))
+    filled = (across[-1] + 1 - across[0]) / pixels.shape[1]
+    if filled < FILLED:
+        yield f"fills only {filled:.0%} of its width"
+    beside = list(neighbours(pixels[..., 3], 1))[1::2]
+    open_to_ground = (np.array(beside) < 64).any(axis=0)
+    dark = (luminance(pixels[solid & open_to_ground]) < DARK).mean()
+    if dark > DARK_ALLOWED:
+        yield f"is dark on {dark:.0%} of its outline, where gold should part it from a dark ground"
+    if (pixels[..., 1] > pixels[..., 0])[solid].any():
+        yield "is not in gold and black alone"
 
 
 def linear_light():
@@ -98,13 +126,30 @@ def luminance(pixels):
     return linear_light()[pixels[..., :3]] @ (0.2126, 0.7152, 0.0722)
 
 
-def wood_faults(pixels):
+def wood_faults(pixels, scale):
     mean = pixels[..., :3].mean(axis=(0, 1))
     if np.abs(mean - WOOD_MEAN).max() > 3:
         yield f"has the mean colour {np.rint(mean).astype(int).tolist()}"
     contrast = (luminance(pixels).min() + 0.05) / 0.05
     if contrast < 4.5:
         yield f"gives black text a contrast of only {contrast:.1f}"
+    board = Image.fromarray(pixels[..., :3].astype(np.uint8))
+    faces = [board.resize((across * scale, down * scale), Image.Resampling.BOX)
+             for across, down in FACES]
+    colours = min(len(face.getcolors(face.width * face.height)) for face in faces)
+    if colours < COLOURS:
+        yield f"has only {colours} colours on a button"
+    if min(np.std(face.convert("L")) for face in faces) < GRAIN:
+        yield "shows no grain on a button"
+
+
+def shadow_faults(pixels):
+    red, green, blue = (pixels[..., channel] for channel in range(3))
+    # Half dark, and still as yellow as the table.
+    mixed = (abs(red - green) < 8) & (abs(2 * blue - red) < 20) & (red > 30) & (red < 225)
+    dots = (pixels[..., :3] == 0).all(axis=2)
+    if mixed.sum() > SMEARED * max(dots.sum(), 100):
+        yield "has the dots of its shadow smeared"
 
 
 def file_faults(picture, folder, scale):
@@ -119,33 +164,47 @@ def file_faults(picture, folder, scale):
     except (OSError, ValueError) as error:
         yield f"cannot be read: {error}"
         return
-    size = (picture.width * scale, picture.height * scale)
+    size = picture.size(scale)
     if pixels.shape[1::-1] != size:
         yield "is {1} x {0}, not {2} x {3}".format(*pixels.shape[:2], *size)
         return
     yield from ground_faults(picture, pixels, scale)
     if len(np.unique(pixels @ (1 << 24, 1 << 16, 1 << 8, 1))) < 8:
         yield "shows next to nothing"
-    if picture.maker in ("drawing", "coin"):
+    if picture.maker in ("drawing", "coin", "emblem"):
         yield from fringe_faults(picture, pixels)
+    if picture.maker == "emblem":
+        yield from emblem_faults(pixels)
+    if picture.maker == "solid":
+        yield from shadow_faults(pixels)
     if picture.maker == "wood":
-        yield from wood_faults(pixels)
+        yield from wood_faults(pixels, scale)
 
 
-def blocks(file, size):
-    with Image.open(file) as image:
-        seen = image.convert("RGBA").convert("RGBa").resize(size, Image.Resampling.BOX)
+def blocks(picture, folder, scale):
+    size = (-(-picture.width // BLOCK), -(-picture.height // BLOCK))
+    drawing = (0, 0, picture.width * scale, picture.height * scale)
+    with Image.open(picture.file(folder, scale)) as image:
+        seen = image.convert("RGBA").convert("RGBa").resize(size, Image.Resampling.BOX, box=drawing)
         return np.asarray(seen, int)
 
 
+def sharpening(single, double):
+    """How much the picture at double scale shows that the single one, enlarged, does not."""
+    with Image.open(single) as coarse, Image.open(double) as fine:
+        enlarged = coarse.convert("L").resize(fine.size, Image.Resampling.BICUBIC)
+        return np.std(np.asarray(fine.convert("L"), int) - np.asarray(enlarged, int))
+
+
 def scale_faults(picture, folder):
-    """Tells when the two scales do not show the same, as after a mix-up of files."""
+    """Tells when two scales do not show the same, as after a mix-up of files."""
     files = [picture.file(folder, scale) for scale in picture.scales]
-    size = (-(-picture.width // BLOCK), -(-picture.height // BLOCK))
-    views = [blocks(file, size) for file in files]
-    apart = np.abs(views[0] - views[-1]).max()
-    if apart > UNLIKE:
-        yield f"{files[-1].name} does not show what {files[0].name} shows"
+    views = [blocks(picture, folder, scale) for scale in picture.scales]
+    for file, view in zip(files[1:], views[1:]):
+        if np.abs(views[0] - view).max() > UNLIKE:
+            yield f"{file.name} does not show what {files[0].name} shows"
+    if picture.maker == "wood" and sharpening(*files) < FINER:
+        yield f"{files[-1].name} is no finer than {files[0].name}"
 
 
 def source_faults(picture, recorded):
@@ -170,6 +229,9 @@ def faults(pictures, folder):
     for picture in pictures:
         yield from picture_faults(picture, folder)
         yield from source_faults(picture, recorded)
+    together = sum(file.stat().st_size for file in folder.glob("*.png"))
+    if together > BYTES:
+        yield f"all pictures together take {together / 1e6:.2f} MB"
     known = {picture.file(folder, scale) for picture in pictures for scale in picture.scales}
     for stranger in sorted(set(folder.glob("*.png")) - known):
         yield f"{stranger.name} is not in the catalogue"

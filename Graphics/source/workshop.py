@@ -3,6 +3,7 @@
 import sys
 
 import coin
+import emblem
 import engraving
 import raster
 import wood
@@ -13,29 +14,28 @@ def drawn(picture, scale):
     left, top, width, height = (
         scale * part for part in picture.box or (0, 0, picture.width, picture.height))
     art = raster.render_svg(SOURCE / picture.sources[0], width, height)
-    size = (picture.width * scale, picture.height * scale)
-    return raster.on_ground(*size, picture.ground, art, (left, top))
+    return raster.on_ground(*picture.size(scale), picture.ground, art, (left, top))
 
 
 def engraved(picture, scale):
     svg = engraving.engraved(SOURCE / picture.sources[0])
-    art = raster.render_svg(svg, picture.width * scale, picture.height * scale)
+    art = raster.render_svg(svg, *picture.size(scale), oversample=1)
     return art.convert("RGB")
 
 
 def sized(draw):
-    return lambda picture, scale: draw(picture.width * scale, picture.height * scale)
+    return lambda picture, scale: draw(*picture.size(scale))
 
 
 MAKERS = {"drawing": drawn, "engraving": engraved,
-          "coin": sized(coin.draw), "wood": sized(wood.draw)}
+          "coin": sized(coin.draw), "emblem": sized(emblem.draw), "wood": sized(wood.draw)}
 
 
-def build_solid(folder):
+def build_solid(pictures, folder):
     sys.path.append(str(SOURCE / "solid"))
     import solid
 
-    solid.build(folder)
+    solid.build(pictures, folder)
 
 
 def build(pictures, folder):
@@ -47,6 +47,7 @@ def build(pictures, folder):
             file = picture.file(folder, scale)
             MAKERS[picture.maker](picture, scale).save(file, "PNG", optimize=True)
             print(file.name, flush=True)
-    if any(picture.maker == "solid" for picture in pictures):
+    solids = [picture for picture in pictures if picture.maker == "solid"]
+    if solids:
         print("the die and the cup, which take a few minutes", flush=True)
-        build_solid(folder)
+        build_solid(solids, folder)

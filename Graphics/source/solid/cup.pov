@@ -1,8 +1,12 @@
 // The leather cup. One unit is one pixel of the table, at every pose.
 #include "stage.inc"
+// Under the lamps that leather asks for, bone would lose its shades.
+#declare BoneDiffuse = 0.48;
+#include "bone.inc"
 
 // The builder sets the pose: Lean to the right in degrees, Turn of the leaning
-// cup towards the player, and its middle Across and Down in the picture.
+// cup towards the player, and its middle Across and Down in the picture;
+// Full if a die is to be seen leaving it.
 
 #declare Pitch = 36;
 #declare Tall = 78;
@@ -159,8 +163,16 @@ texture {
 
 #declare Upwards = vrotate(y, x * Pitch);
 
+#declare FullCup = union {
+  object { Cup }
+  #if (Full)
+    // Small enough to have come past its fellows, and lying on what is then the lower wall.
+    object { Die scale 14 rotate <40, 20, -20> translate <8, Tall - 1, -3> }
+  #end
+}
+
 object {
-  Cup
+  FullCup
   // A low cup's shadow for the tall one: the picture has no room for the whole of it.
   #if (Pass = 1) no_image scale <1, 0.5, 1> #end
   translate -y * Tall / 2

@@ -1,9 +1,8 @@
-#!/usr/bin/python3
 """Renders the solid pictures of the table: the tumbling die and the leather cup."""
 
+import math
 import pathlib
 import subprocess
-import sys
 import tempfile
 
 import numpy as np
@@ -12,7 +11,6 @@ from PIL import Image
 HERE = pathlib.Path(__file__).resolve().parent
 SYMBOLS = HERE.parent / "symbols"
 GROUND = (255, 255, 128)
-SCALES = {1: "", 2: "@2x"}
 
 # Each solid is rendered this many times its size on the table, then reduced.
 BODY_FINENESS = 8
@@ -23,18 +21,17 @@ SHADOW_DEPTH = 0.68
 
 FACES = ("heart", "club", "thistle", "lantern", "diamond", "spade")
 STEPS = 24
-DIE_SIZE = (92, 105)
 DIE_EDGE_ROUNDING = 0.27
 SYMBOL_PIXELS = 512
 
-# Size on the table; lean to the right and turn towards the player in degrees;
-# the place of the cup's middle in the picture.
+# Lean to the right and turn towards the player in degrees; the place of the cup's middle in the
+# picture; whether a die shows in its mouth.
 CUPS = {
-    "CupStanding": ((91, 117), 0, 0, (57, 54)),
-    "CupCentre": ((89, 137), 0, 0, (44.5, 54)),
-    "CupLeft": ((111, 140), -27, 0, (50, 62)),
-    "CupRight": ((111, 142), 27, 0, (61, 62)),
-    "CupThrow": ((118, 150), 98, 24, (59, 58)),
+    "CupStanding": (0, 0, (57, 54), False),
+    "CupCentre": (0, 0, (44.5, 54), False),
+    "CupLeft": (-27, 0, (50, 62), False),
+    "CupRight": (27, 0, (61, 62), False),
+    "CupThrow": (98, 24, (59, 58), True),
 }
 
 
@@ -129,78 +126,82 @@ def dithered(density):
     return density > tile[rows % side, columns % side]
 
 
-def reduced(array, factor):
-    rows, columns = array.shape[0] // factor, array.shape[1] // factor
-    return array.reshape(rows, factor, columns, factor, *array.shape[2:]).mean((1, 3))
+def overlaps(pixels, span):
+    """The share of each pixel in each run of so many; the last run may end beyond the last."""
+    starts = np.arange(math.ceil(pixels / span - 1e-9))[:, None] * span
+    pixel = np.arange(pixels)[None, :]
+    shared = np.minimum(starts + span, pixel + 1) - np.maximum(starts, pixel)
+    return np.clip(shared, 0, None) / span
+
+
+def reduced(array, span):
+    """Means over squares of so many pixels, whole or not; beyond the edge lies nothing."""
+    rows, columns = (overlaps(side, span) for side in array.shape[:2])
+    return np.einsum("ir,rcn,jc->ijn", rows, array, columns, optimize=True)
 
 
 def compose(body, light, scale):
     """Lays the body over its dithered shadow on the table's ground."""
     pixels = np.asarray(body, float) / 255
     alpha = pixels[..., 3:]
-    painted = reduced(pixels[..., :3] * alpha, BODY_FINENESS // scale)
-    cover = reduced(alpha, BODY_FINENESS // scale)
+    painted = reduced(pixels[..., :3] * alpha, BODY_FINENESS / scale)
+    cover = reduced(alpha, BODY_FINENESS / scale)
     table = np.broadcast_to(np.array(GROUND) / 255, painted.shape).copy()
     if light is not None:
-        density = SHADOW_DEPTH * (1 - np.asarray(light.convert("L"), float) / 255)
-        table[dithered(reduced(density, SHADOW_FINENESS // scale))] = 0
+        dark = SHADOW_DEPTH * (1 - np.asarray(light.convert("L"), float) / 255)
+        density = reduced(dark[..., None], SHADOW_FINENESS / scale)[..., 0]
+        table[dithered(density)] = 0
     picture = painted + (1 - cover) * table
-    return Image.fromarray(np.rint(picture * 255).astype(np.uint8), "RGB")
+    return np.rint(picture * 255).astype(np.uint8)
 
 
-def save(name, body, light, output_dir):
-    size = [side // BODY_FINENESS for side in body.size]
-    for scale, suffix in SCALES.items():
-        path = output_dir / f"{name}{suffix}.png"
-        compose(body, light, scale).save(path, optimize=True)
-        check(path, [side * scale for side in size])
+def packed(pixels):
+    """The picture in 256 colours, with the ground and the shadow's black among them as they are."""
+    bare, black = ((pixels == colour).all(axis=2) for colour in (GROUND, 0))
+    body = ~bare & ~black
+    strip = Image.fromarray(pixels[body][None]).quantize(254, kmeans=3, dither=Image.Dither.NONE)
+    indices = black.astype(np.uint8)
+    indices[body] = np.asarray(strip)[0] + 2
+    picture = Image.fromarray(indices, "P")
+    picture.putpalette([*GROUND, 0, 0, 0, *strip.getpalette()][:3 * (indices.max() + 1)])
+    return picture
 
 
-def check(path, size):
-    with Image.open(path) as picture:
-        if picture.mode != "RGB" or list(picture.size) != list(size):
-            raise ValueError(f"{path.name}: {picture.mode} {picture.size}, not RGB {size}")
-        pixels = np.asarray(picture)
-    bare = (pixels == GROUND).all(axis=2)
-    border = np.concatenate([bare[0], bare[-1], bare[:, 0], bare[:, -1]])
-    if not border.all():
-        raise ValueError(f"{path.name}: {np.sum(~border)} edge pixels are not bare ground")
-    if bare.mean() > 0.9:
-        raise ValueError(f"{path.name}: hardly anything is drawn")
+def save(picture, body, light, folder):
+    for scale in picture.scales:
+        packed(compose(body, light, scale)).save(picture.file(folder, scale), optimize=True)
 
 
-def build_dice(work, output_dir):
+def build_dice(pictures, work, folder):
     draw_symbols(work)
     write_tumble(work / "tumble.inc")
     loop = ["+KFI0", f"+KFF{STEPS - 1}", "+KI0", f"+KF{STEPS - 1}"]
-    render("die.pov", DIE_SIZE, False, work, "body.png", loop)
-    render("die.pov", DIE_SIZE, True, work, "light.png", loop)
+    size = (pictures["Anidice00"].width, pictures["Anidice00"].height)
+    render("die.pov", size, False, work, "body.png", loop)
+    render("die.pov", size, True, work, "light.png", loop)
     for step in range(STEPS):
-        save(f"Anidice{step:02}", Image.open(work / f"body{step:02}.png"),
-             Image.open(work / f"light{step:02}.png"), output_dir)
+        save(pictures[f"Anidice{step:02}"], Image.open(work / f"body{step:02}.png"),
+             Image.open(work / f"light{step:02}.png"), folder)
 
 
-def build_cup(work, output_dir):
-    for name, (size, lean, turn, middle) in CUPS.items():
-        pose = [f"Declare=Lean={lean}", f"Declare=Turn={turn}",
+def build_cup(pictures, work, folder):
+    for name, (lean, turn, middle, full) in CUPS.items():
+        size = (pictures[name].width, pictures[name].height)
+        pose = [f"Declare=Lean={lean}", f"Declare=Turn={turn}", f"Declare=Full={int(full)}",
                 f"Declare=Across={middle[0]}", f"Declare=Down={middle[1]}"]
         render("cup.pov", size, False, work, "body.png", pose)
         light = None
         if name == "CupStanding":
             render("cup.pov", size, True, work, "light.png", pose)
             light = Image.open(work / "light.png")
-        save(name, Image.open(work / "body.png"), light, output_dir)
+        save(pictures[name], Image.open(work / "body.png"), light, folder)
 
 
-def build(output_dir: pathlib.Path) -> None:
-    output_dir.mkdir(parents=True, exist_ok=True)
-    with tempfile.TemporaryDirectory() as folder:
-        work = pathlib.Path(folder)
-        build_dice(work, output_dir)
-        build_cup(work, output_dir)
-
-
-if __name__ == "__main__":
-    if len(sys.argv) != 2:
-        sys.exit("usage: solid.py OUTPUT_DIR")
-    build(pathlib.Path(sys.argv[1]))
+def build(pictures, folder):
+    """Renders what the catalogue calls solid, into this folder."""
+    named = {picture.name: picture for picture in pictures}
+    with tempfile.TemporaryDirectory() as temporary:
+        work = pathlib.Path(temporary)
+        build_dice(named, work, folder)
+        # A die looks out of the thrown cup, hence what was made for the dice.
+        build_cup(named, work, folder)

@@ -1,0 +1,31 @@
+"""Draws the emblem: where pixels are few by a drawing fitted to them, else by the large one."""
+
+from PIL import Image
+
+from catalogue import SOURCE
+from raster import render_svg
+
+# The smallest of all is set pixel by pixel.
+SET = 16
+# Clear; light, middle and dark gold; black and where it shines; the window from side to flame.
+PAINTS = {".": (0, 0, 0, 0),
+          "l": (248, 208, 76, 255), "g": (222, 166, 36, 255), "d": (150, 100, 16, 255),
+          "k": (10, 9, 8, 255), "s": (70, 66, 58, 255),
+          "a": (246, 170, 32, 255), "y": (255, 212, 78, 255), "w": (255, 251, 224, 255)}
+
+
+def set_by_hand():
+    rows = (SOURCE / f"emblem-{SET}.txt").read_text().split()
+    picture = Image.new("RGBA", (SET, SET))
+    picture.putdata([PAINTS[letter] for row in rows for letter in row])
+    return picture
+
+
+def draw(width, height):
+    if width == SET:
+        return set_by_hand()
+    fitted = SOURCE / f"emblem-{width}.svg"
+    if fitted.exists():
+        # What lies between pixels stays there only if nothing is reduced.
+        return render_svg(fitted, width, height, oversample=1)
+    return render_svg(SOURCE / "emblem-large.svg", width, height)
