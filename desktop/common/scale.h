@@ -55,4 +55,12 @@ double CarriedScale(int width, int wanted, const IsCarried& isCarried) {
   return kMost;
 }
 
+/// Whether a carried picture is shown in this size by leaving off its last row or column: its sizes are rounded up, so
+/// that it can be cut but need not be scaled.
+inline bool IsCut(Size carried, Size shown) {
+  const int width = carried.width - shown.width;
+  const int height = carried.height - shown.height;
+  return width >= 0 && width <= 1 && height >= 0 && height <= 1 && width + height > 0;
+}
+
 }  // namespace desktop::common

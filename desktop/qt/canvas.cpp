@@ -7,15 +7,16 @@
 namespace desktop::qt {
 
 QtCanvas::QtCanvas(QWidget& widget, PictureStore& pictures)
-    : painter_(&widget), pictures_(pictures), scale_(widget.devicePixelRatioF()) {
+    : widget_(widget), painter_(&widget), pictures_(pictures), scale_(widget.devicePixelRatioF()) {
   BeginAt({0, 0});
 }
 
 void QtCanvas::BeginAt(QPoint origin) {
+  const QPoint corner = (QPointF(widget_.mapTo(widget_.window(), origin)) * scale_.ratio()).toPoint();
   painter_.setWorldTransform({});
-  const QTransform device = painter_.deviceTransform();
-  const QPoint corner = device.map(QPointF(origin)).toPoint();
-  painter_.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) * device.inverted());
+  // What the painter would do by itself: below a scale of 1 it does not scale.
+  const QTransform own = painter_.deviceTransform();
+  painter_.setWorldTransform(QTransform::fromTranslate(corner.x(), corner.y()) * own.inverted());
 }
 
 void QtCanvas::Fill(const common::Rect& place, const Tint& tint) { painter_.fillRect(ToQt(place), ToQt(tint)); }

@@ -34,6 +34,7 @@ class QtCanvas : public common::Canvas {
   void Write(const common::TextLine& line, const Font& font, Colour colour) override;
 
  private:
+  QWidget& widget_;
   QPainter painter_;
   PictureStore& pictures_;
   common::Scale scale_;

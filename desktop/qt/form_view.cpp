@@ -93,7 +93,7 @@ void FormView::paintEvent(QPaintEvent* event) {
   for (const QRect& rect : event->region()) {
     const common::Rect area{rect.x() - form_.Border, rect.y() - form_.Border, rect.width(), rect.height()};
     damaged.push_back(area.Grown(1).Shared(inside));
-    canvas.Fill(scale.Device(damaged.back()), {form_.BackColor});
+    canvas.Fill(scale.Outward(damaged.back()), {form_.BackColor});
   }
   for (const Element* element : drawing_.Meeting(damaged)) common::Paint(canvas, *element, scale);
 }

@@ -37,7 +37,10 @@ const QPixmap& PictureStore::Sized(const Picture& picture, common::Size size) {
   if (!fresh) return at->second;
   QImage image = Load(picture, size);
   const QSize wanted(size.width, size.height);
-  if (image.size() != wanted) image = image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  if (common::IsCut({image.width(), image.height()}, size))
+    image = image.copy({{}, wanted});
+  else if (image.size() != wanted)
+    image = image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   at->second = QPixmap::fromImage(std::move(image));
   return at->second;
 }

@@ -28,6 +28,7 @@ void QtDesktop::ShowFrame(Frame& frame) {
   delivery_.emplace(frame, static_cast<common::Screen&>(*this), waits_);
   window_ = std::make_unique<FrameWindow>(frame, *delivery_);
   views_.emplace(frame, [this](Form& form) { return new FormView(form, *delivery_, pictures_, &window_->area()); });
+  endings_.emplace([this] { delivery_->Close(); });
   window_->WhenSeen([this] { sound_.Begin(); });
   window_->Appear();
 }

@@ -10,6 +10,7 @@
 #include "desktop/common/views.h"
 #include "desktop/common/waits.h"
 #include "desktop/desktop.h"
+#include "desktop/qt/endings.h"
 #include "desktop/qt/frame_window.h"
 #include "desktop/qt/opening_sound.h"
 #include "desktop/qt/picture_store.h"
@@ -58,6 +59,7 @@ class QtDesktop : public Desktop, private common::Screen {
   std::optional<common::Delivery> delivery_;
   std::unique_ptr<FrameWindow> window_;
   std::optional<common::Views> views_;
+  std::optional<Endings> endings_;
 };
 
 }  // namespace desktop::qt

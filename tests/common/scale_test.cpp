@@ -55,4 +55,9 @@ TEST(Scale, APictureIsShownFromTheFileThatFitsOrElseReducedFromTheLargest) {
   EXPECT_EQ(CarriedScale(400, 89, all), 1) << "stretched to a button";
 }
 
+TEST(Scale, APictureThatIsAHairTooLargeIsCutAndNotScaled) {
+  EXPECT_TRUE(IsCut({115, 132}, {115, 131}));
+  for (const Size shown : {Size{115, 132}, {115, 130}, {116, 131}, {92, 105}}) EXPECT_FALSE(IsCut({115, 132}, shown));
+}
+
 }  // namespace

@@ -1,8 +1,11 @@
 #!/usr/bin/python3
 """All ways out of the program, at every kind of moment, and what the store holds then."""
 
+import os
+import signal
 import time
 import unittest
+from unittest import mock
 
 from desk import Desk, wait_until
 from game import (BUTTONS, CAPTIONS, CUP, CUP_FRAMES, FRESH, Game, differs_in, pile_place, settings, shows,
@@ -33,6 +36,21 @@ def in_settlement(game):
     wait_until("the outcome", lambda: differs_in(game.canvas(), bet, CAPTIONS[5]))
 
 
+def behind_a_question(game):
+    game.choose("g", "e")
+    game.question()
+
+
+def under_a_menu(game):
+    game.desk.key("Alt_L", "g")
+    wait_until("the menu", lambda: game.other_window(menu=True))
+
+
+def minimised(game):
+    game.window.ask_manager("WM_CHANGE_STATE", 3)
+    wait_until("the window to go", lambda: not game.window.is_shown())
+
+
 class Ending(unittest.TestCase):
     def setUp(self):
         self.desk = self.enterContext(Desk())
@@ -56,6 +74,34 @@ class Ending(unittest.TestCase):
                 self.assertEqual(game.close(), 0)
                 self.desk.release()
                 self.assert_kept(kept)
+
+    def test_a_signal_ends_the_run_as_a_close_does(self):
+        moments = ((signal.SIGTERM, in_shake, [12, 12, 10]), (signal.SIGINT, behind_a_question, FRESH),
+                   (signal.SIGHUP, under_a_menu, FRESH), (signal.SIGQUIT, minimised, FRESH))
+        for number, moment, kept in moments:
+            write_settings(self.desk, **OLD)
+            with self.subTest(moment.__name__), Game(self.desk) as game:
+                self.start(game, "n")
+                moment(game)
+                game.process.send_signal(number)
+                self.assertEqual(game.ended(), 0)
+                self.assert_kept(kept)
+
+    def test_a_signal_that_was_ignored_from_the_start_stays_so(self):
+        with mock.patch.dict(os.environ, GAME=self.desk.launcher("trap '' HUP")), Game(self.desk) as game:
+            game.process.send_signal(signal.SIGHUP)
+            self.start(game, "n")
+            self.assertEqual(game.close(), 0)
+
+    def test_the_money_is_kept_where_the_window_system_breaks_off(self):
+        for breaks_off in (lambda game: game.window.kill(), lambda _: self.desk.lose_server()):
+            write_settings(self.desk, **OLD)
+            with Game(self.desk) as game:
+                self.start(game, "n")
+                in_shake(game)
+                breaks_off(game)
+                game.ended()
+                self.assert_kept([12, 12, 10])
 
     def test_earlier_money_is_offered_and_lasts(self):
         with Game(self.desk) as game:

@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 
+#include "desktop/qt/canvas.h"
 #include "tests/qt/desk.h"
 #include "tests/qt/sheet.h"
 
@@ -30,9 +31,9 @@ class Drag : public AtTable {
       home = home && piece.Left == table.HomeLeft[piece.Index] && piece.Top == table.HomeTop[piece.Index];
     return home;
   }
-  void Send(QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
+  void Send(QEvent::Type type, QPointF at, Qt::MouseButton button, Qt::MouseButtons held) {
     auto& view = *ViewOf(table);
-    QMouseEvent event(type, at, view.mapToGlobal(QPointF(at)), button, held, {});
+    QMouseEvent event(type, at, view.mapToGlobal(at), button, held, {});
     QApplication::sendEvent(&view, &event);
   }
 };
@@ -57,6 +58,35 @@ TEST_F(Drag, CarriesAPieceByThePixelItWasTakenAtToWhereThePointerIs) {
   }
   EXPECT_EQ(table.Label1[0].Caption, "£6 Bet");
   EXPECT_EQ(Total(), "£194");
+}
+
+TEST_F(Drag, TheEdgesOfASquareAreWhereTheyArePaintedToTheDevicePixel) {
+  Press(table, kCoin);
+  // The coin is held by its corner, so that the pointer's pixel alone decides.
+  const auto isOn = [&](int x, int y) {
+    Send(QEvent::MouseMove, QPointF(x, y) / Ratio() + desktop::qt::PaintedBeside(*ViewOf(table)) / Ratio(),
+         Qt::NoButton, Qt::LeftButton);
+    return Shape() == Qt::ArrowCursor;
+  };
+  const int middleX = Device(56), middleY = Device(200);
+  for (const auto& [left, right] : {std::pair{6, 106}, {110, 210}}) {
+    EXPECT_FALSE(isOn(Device(left) - 1, middleY)) << left;
+    EXPECT_TRUE(isOn(Device(left), middleY)) << left;
+    EXPECT_TRUE(isOn(Device(right) - 1, middleY)) << right;
+    EXPECT_FALSE(isOn(Device(right), middleY)) << right;
+  }
+  EXPECT_FALSE(isOn(middleX, Device(156) - 1));
+  EXPECT_TRUE(isOn(middleX, Device(156)));
+  EXPECT_TRUE(isOn(middleX, Device(256) - 1));
+  EXPECT_FALSE(isOn(middleX, Device(256)));
+}
+
+TEST_F(Drag, LeavesNoTrail) {
+  Press(table, {210, 290});
+  for (int step = 0; step < 60; ++step) {
+    Move(table, {210 + 7 * step, 290 - 3 * step});
+    EXPECT_TRUE(step % 10 != 9 || IsFresh(table)) << step;
+  }
 }
 
 TEST_F(Drag, IsTheLeftButtonsWorkAndASecondPressInQuickSuccessionLiftsAsTheFirst) {

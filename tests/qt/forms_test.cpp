@@ -151,7 +151,7 @@ TEST(Pictures, EachOneLoadsInEveryScaleInWhichItIsCarried) {
       QImage image(name);
       image.setDevicePixelRatio(1);
       const double ratio = *scale == '\0' ? 1 : QString(scale).mid(1).chopped(1).toDouble();
-      EXPECT_EQ(image.size(), QSize(qRound(picture->width * ratio), qRound(picture->height * ratio)))
+      EXPECT_EQ(image.size(), QSize(qCeil(picture->width * ratio), qCeil(picture->height * ratio)))
           << name.toStdString();
     }
 }

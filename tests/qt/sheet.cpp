@@ -21,7 +21,7 @@ QImage Carried(const QString& name) {
   if (Ratio() == 1) return single;
   QImage own(QString(":/pictures/%1@%2x.png").arg(name).arg(Ratio()));
   own.setDevicePixelRatio(1);
-  if (!own.isNull()) return own;
+  if (!own.isNull()) return own.copy(0, 0, Device(single.width()), Device(single.height()));
   QImage twice(":/pictures/" + name + "@2x.png");
   twice.setDevicePixelRatio(1);
   twice.convertTo(QImage::Format_ARGB32_Premultiplied);  // an indexed one would come back in a few colours

@@ -3,6 +3,7 @@
 import ctypes
 import functools
 import os
+import pathlib
 import select
 import shutil
 import signal
@@ -77,6 +78,18 @@ class Desk:
         options = {"stdout": words, "stderr": words, **(pipes or {})}
         self._children.append(start(command, env={**kept, "DISPLAY": self.name, **variables}, **options))
         return self._children[-1]
+
+    def launcher(self, preparation):
+        """A script that starts the game after a line of shell."""
+        script = pathlib.Path(self.home, "launch")
+        script.write_text(f"#!/bin/sh\n{preparation}\nexec '{os.environ['GAME']}'\n")
+        script.chmod(0o755)
+        return str(script)
+
+    def lose_server(self):
+        """The display goes, with all that is on it."""
+        self.display = None
+        stop(self._children[0])
 
     def _start_server(self):
         for program in filter(None, ("Xvfb", self.window_manager)):
@@ -256,6 +269,11 @@ class Window:
         """What the window manager sends for a click on the close button."""
         atom = self.desk.display.intern_atom
         self._send(self.window, atom("WM_PROTOCOLS"), [atom("WM_DELETE_WINDOW"), X.CurrentTime])
+
+    def kill(self):
+        """The server breaks the connection to whoever owns the window."""
+        self.window.kill_client()
+        self.desk.display.sync()
 
     def ask_manager(self, message, *data):
         mask = X.SubstructureRedirectMask | X.SubstructureNotifyMask

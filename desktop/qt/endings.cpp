@@ -1,0 +1,66 @@
+#include "desktop/qt/endings.h"
+
+#include <signal.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSocketNotifier>
+#include <cstdlib>
+#include <utility>
+
+namespace desktop::qt {
+
+namespace {
+
+// A signal's handler may do next to nothing; what it writes here wakes the event loop.
+int wakeUp[2] = {-1, -1};
+
+void Wake(int) {
+  const char byte = 1;
+  [[maybe_unused]] const auto written = write(wakeUp[0], &byte, 1);
+}
+
+// Where the window system breaks the connection the toolkit calls exit: this is the last call that we get.
+const std::function<void()>* lastCall = nullptr;
+
+void AtExit() {
+  if (const auto* end = std::exchange(lastCall, nullptr)) (*end)();
+}
+
+}  // namespace
+
+Endings::Endings(std::function<void()> end) : end_(std::move(end)) {
+  CatchSignals();
+  QCoreApplication::instance()->installEventFilter(this);
+  static const int registered = std::atexit(AtExit);
+  if (registered == 0) lastCall = &end_;
+}
+
+Endings::~Endings() { lastCall = nullptr; }
+
+void Endings::CatchSignals() {
+  if (wakeUp[0] < 0 && socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0, wakeUp) != 0) return;
+  auto* notifier = new QSocketNotifier(wakeUp[1], QSocketNotifier::Read, this);
+  connect(notifier, &QSocketNotifier::activated, this, [this] {
+    char byte = 0;
+    if (read(wakeUp[1], &byte, 1) == 1) end_();
+  });
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
+    struct sigaction now = {};
+    // Whoever started the program may have it outlive a terminal.
+    if (sigaction(signal, nullptr, &now) != 0 || now.sa_handler == SIG_IGN) continue;
+    now.sa_handler = Wake;
+    now.sa_flags = SA_RESTART;
+    sigaction(signal, &now, nullptr);
+  }
+}
+
+bool Endings::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::Quit) return false;
+  end_();
+  return true;
+}
+
+}  // namespace desktop::qt
