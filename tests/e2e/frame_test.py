@@ -45,24 +45,63 @@ class Frame(unittest.TestCase):
 
         wait_until(f"{STRETCH} s without work in an idle game", look)
 
-    def test_no_other_size_in_the_normal_state(self):
+    def borders(self, window):
+        """Where the mouse can take hold of each border, and which way it then pulls: by the shape of the pointer."""
+        left, top, width, height = window.rect()
+        middle = left + width // 2, top + height // 2
+        self.desk.move(*middle)
+        arrow = self.desk.pointer_shape()
+        for x, y in ((1, 0), (0, 1), (-1, 0), (0, -1)):
+            # From far outside inwards, so that it is the border and not the title bar.
+            for away in range(50, 0, -1):
+                at = middle[0] + x * (width // 2 + away), middle[1] + y * (height // 2 + away)
+                self.desk.move(*at)
+                if self.desk.pointer_shape() not in (arrow, self.on_ground):
+                    yield at, (x, y)
+                    break
+
+    def pull(self, window, at, way):
+        """Drags a border outwards. Where there is no border to be had, the window manager is asked for it."""
+        self.desk.move(*at)
+        self.desk.press()
+        if MANAGER == "kwin_x11":
+            side = {(0, -1): 1, (1, 0): 3, (0, 1): 5, (-1, 0): 7}[way]
+            window.ask_manager("_NET_WM_MOVERESIZE", *at, side, 1, 1)
+        for step in range(1, 10):
+            time.sleep(0.02)
+            self.desk.move(at[0] + 10 * step * way[0], at[1] + 10 * step * way[1])
+        self.desk.release()
+
+    def rest(self, game):
+        """The window's place and size, once they have not changed for a while."""
+        seen = [game.window.rect()]
+        wait_until("the window to rest", lambda: seen.append(game.window.rect()) or time.sleep(0.05)
+                   or len(set(seen[-16:])) == 1 and len(seen) > 16)
+        return seen[-1]
+
+    def test_no_other_size_in_the_normal_state_and_no_other_place(self):
+        self.desk.move(1, 1)
+        self.on_ground = self.desk.pointer_shape()
         with Game(self.desk) as game:
             game.play()
             self.wait_for_exact(game)
-            left, top, width, height = game.window.rect()
-            if MANAGER:
-                self.desk.move(left + width // 2, top + height // 2)
-                arrow = self.desk.pointer_shape()
-                border = left + width // 2, top + height + 1
-                self.desk.move(*border)
-                wait_until("a border under the pointer", lambda: self.desk.pointer_shape() != arrow)
-                self.desk.drag(border, (border[0] + 30, border[1] + 94))
-                self.desk.release()
+            # Away from the screen's edges.
+            game.window.window.configure(x=300, y=200)
+            wait_until("the move", lambda: abs(game.window.rect()[0] - 300) < 30)
+            left, top, width, height = before = self.rest(game)
+            borders = list(self.borders(game.window)) if MANAGER else []
+            if MANAGER == "kwin_x11":  # undecorated where no theme is installed: just outside
+                borders = [((left + width // 2 + x * (width // 2 + 4), top + height // 2 + y * (height // 2 + 4)), (x, y))
+                           for x, y in ((1, 0), (0, 1), (-1, 0), (0, -1))]
+            self.assertGreaterEqual(len(borders), 3 if MANAGER else 0)
+            for at, way in borders:
+                self.pull(game.window, at, way)
+                self.assertEqual(self.rest(game), before, f"after a pull by {way}")
             # Another program asks for another size, as a script of the user's might.
             game.window.window.configure(width=width + 90, height=height + 94)
             self.desk.move(1, 1)
             self.wait_for_peace(game)
-            self.assertEqual(game.window.rect()[2:], (width, height))
+            self.assertEqual(game.window.rect(), before)
             self.wait_for_exact(game)
 
     @unittest.skipUnless(MANAGER == "openbox", "one manager is enough, and its frame is all in view")
@@ -75,17 +114,21 @@ class Frame(unittest.TestCase):
         panel.destroy()
 
     def test_place_is_kept_without_creeping(self):
-        seen = set()
-        for run in range(5):
-            with Game(self.desk) as game:
-                if run == 0:
-                    game.window.window.configure(x=173, y=131)
-                    wait_until("the move", lambda: abs(game.window.rect()[0] - 173) < 20)
-                    place = game.window.rect()
-                wait_until("the same place", lambda: game.window.rect() == place)
-                self.assertEqual(game.close(), 0)
-            seen.add((settings(self.desk)["MainLeft"], settings(self.desk)["MainTop"]))
-        self.assertEqual(len(seen), 1, seen)
+        for scale in (1, 1.5):
+            seen = set()
+            for run in range(10):
+                with Game(self.desk, scale) as game:
+                    if run == 0:
+                        game.window.window.configure(x=173, y=131)
+                        wait_until("the move", lambda: abs(game.window.rect()[0] - 173) < 20)
+                        place = game.window.rect()
+                    elif run == 1 and scale != 1:
+                        # A layout's pixel is more than one of the screen's: the first start settles which.
+                        place = game.window.rect()
+                    wait_until("the same place", lambda: game.window.rect() == place)
+                    self.assertEqual(game.close(), 0)
+                seen.add((settings(self.desk)["MainLeft"], settings(self.desk)["MainTop"]))
+            self.assertEqual(len(seen), 1, f"{seen} at {scale}")
 
     def maximise(self, game, add=True):
         atom = self.desk.display.intern_atom
