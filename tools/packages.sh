@@ -4,7 +4,7 @@
 BUILD=(g++ cmake ninja-build qt6-base-dev libsdl2-dev)
 # A virtual display, and what plays on it.
 DISPLAY_TOOLS=(xvfb openbox python3-xlib python3-pil)
-TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon metacity kwin-x11 icewm pulseaudio pulseaudio-utils faketime
+TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon metacity kwin-x11 icewm weston qt6-wayland pulseaudio pulseaudio-utils faketime
        python3-numpy python3-scipy librsvg2-bin
        file dpkg-dev lintian desktop-file-utils appstream man-db debootstrap)
 

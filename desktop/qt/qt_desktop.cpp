@@ -1,7 +1,9 @@
 #include "desktop/qt/qt_desktop.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QPixmapCache>
 #include <QScreen>
 #include <QUrl>
@@ -14,11 +16,22 @@
 
 namespace desktop::qt {
 
+namespace {
+
+bool IsWaylandAtHand() {
+  const QDir platforms(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+  return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+         !platforms.entryList({QStringLiteral("*qwayland*")}).isEmpty();
+}
+
+}  // namespace
+
 void PrepareToolkit() {
 #ifdef Q_OS_LINUX
-  // The window system that tells a window its place, where there are two and the user has not chosen.
-  if (!qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+  // Where both are at hand and the user has not chosen: X11 tells a window its place, but in a Wayland session it shows
+  // a picture that is stretched on dense screens.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
+    qputenv("QT_QPA_PLATFORM", IsWaylandAtHand() ? "wayland;xcb" : "xcb;wayland");
 #endif
   // The toolkit's own store of pixmaps would wake an idle program half a minute later, to look through itself.
   QPixmapCache::setCacheLimit(0);

@@ -1,0 +1,53 @@
+#!/usr/bin/python3
+"""In a Wayland session that has X11 beside it: the window is Wayland's own, sharp at every density, and its run is
+kept."""
+
+import os
+import pathlib
+import unittest
+
+from PIL import Image
+
+from desk import Desk, wait_until
+from game import TABLE, settings, shows, write_settings
+
+OLD = {"MainLeft": "1500", "MainTop": "900", "SoundOn": "False", "Stash0": "7", "Stash1": "3", "Stash2": "1"}
+EMBLEM = ("ThistleAndLantern128", (16, 24))
+
+
+class Wayland(unittest.TestCase):
+    def shot(self, desk):
+        """The compositor's own picture of its screen."""
+        folder = pathlib.Path(desk.home, "shots")
+        folder.mkdir(exist_ok=True)
+        desk.start(["sh", "-c", f"cd '{folder}' && rm -f *.png && weston-screenshooter"], quiet=True,
+                   WAYLAND_DISPLAY="wayland-test").wait()
+        found = list(folder.glob("*.png"))
+        return Image.open(found[0]).convert("RGB") if found else None
+
+    def shows_emblem(self, desk, scale):
+        screen = self.shot(desk)
+        if not screen:
+            return False
+        ground = Image.new("L", screen.size)
+        ground.putdata([255 if pixel == TABLE else 0 for pixel in screen.getdata()])
+        corner = ground.getbbox()
+        return corner and shows(screen.crop((*corner[:2], corner[0] + 632 * scale, corner[1] + 406 * scale)), *EMBLEM, scale)
+
+    def test_is_native_and_sharp_and_leaves_the_stored_place_alone(self):
+        for scale in (1, 2):
+            with self.subTest(scale=scale), Desk() as desk:
+                desk.start(["weston", "--backend=headless-backend.so", "--socket=wayland-test", "--width=1280",
+                            "--height=960", f"--scale={scale}", "--use-pixman", "--debug", "--idle-time=0"], quiet=True)
+                wait_until("the compositor", lambda: os.path.exists(desk.home + "/wayland-test"))
+                write_settings(desk, **OLD)
+                game = desk.start([os.environ["GAME"]], quiet=True, WAYLAND_DISPLAY="wayland-test")
+                wait_until("the emblem, pixel by pixel", lambda: self.shows_emblem(desk, scale))
+                self.assertEqual(desk.windows(game.pid), [], "nothing on the X11 beside it")
+                game.terminate()
+                self.assertEqual(game.wait(timeout=60), 0)
+                self.assertEqual(settings(desk), OLD)
+
+
+if __name__ == "__main__":
+    unittest.main()
