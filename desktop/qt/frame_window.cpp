@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QWindow>
 #include <utility>
@@ -106,6 +107,13 @@ bool FrameWindow::eventFilter(QObject*, QEvent* event) {
   // What comes into view is painted there and then.
   if (event->type() == QEvent::Expose && whenSeen_) QTimer::singleShot(0, this, std::exchange(whenSeen_, nullptr));
   return false;
+}
+
+void FrameWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier)
+    menu_->setActiveAction(menu_->actions().first());
+  else
+    QWidget::keyPressEvent(event);
 }
 
 void FrameWindow::LayOut() {

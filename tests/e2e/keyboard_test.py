@@ -44,10 +44,28 @@ class Keyboard(unittest.TestCase):
         self.game.choose("g", "n")
         self.game.answer("y")
         wait_until("a new game", lambda: opens_with(self.game.canvas(), FRESH))
-        self.game.choose("g", "e")
+        # The menu bar by its own key.
+        self.desk.key("F10")
+        opened = wait_until("the menu", lambda: self.game.other_window(menu=True))
+        self.desk.key("e")
+        wait_until("the menu to close", lambda: not opened.is_shown())
         self.game.question()
         self.desk.key("Return")
         self.assertEqual(self.game.ended(), 0, "Yes is what Enter answers")
+
+    def test_the_instructions_are_read_by_keys_after_a_click_into_them_too(self):
+        self.game.click(BUTTONS["Instructions"])
+        text = 20, 20, 560, 330
+        opened = self.game.canvas()
+        wait_until("the text", lambda: differs_in(self.game.canvas(), opened, text))
+        self.desk.click(*self.game.middle(text))
+        self.desk.move(1, 1)
+        for key in ("Down", "Next", "End", "Up"):
+            before = self.game.canvas()
+            self.desk.key(key)
+            wait_until(f"{key} to scroll", lambda: differs_in(self.game.canvas(), before, text))
+        self.desk.key("space")
+        wait_until("the opening form", self.game.shows_opening)
 
 
 if __name__ == "__main__":
