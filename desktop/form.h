@@ -25,6 +25,7 @@ class Form {
   Form& operator=(const Form&) = delete;
 
   std::string_view Name;
+  std::string AccessibleName;  ///< what a screen reader calls it
   bool Loaded = false;
   float Left = 0;        ///< pixels, in the frame's client area
   float Top = 0;         ///< pixels, in the frame's client area

@@ -20,7 +20,8 @@ inline constexpr std::string_view kWin = "WIN";
 
 inline constexpr std::string_view kNoMoneyLeft = "You Have No Money Left\r\nWould You Like Another £200 ?";
 
-/// The squares of the mat from the left, for a screen reader.
+// For a screen reader: the form, and the squares of the mat from the left.
+inline constexpr std::string_view kTable = "Table";
 inline constexpr std::array<std::string_view, 6> kSquares{"heart", "spade", "diamond", "club", "thistle", "lantern"};
 
 /// "£" and the digits of `amount`, without separators.

@@ -52,6 +52,7 @@ void frmAbout::LayOut() {
   Height = kForm.Height / desktop::kTwipsPerPixel;
   Border = kBorder;
   BackColor = colours::kAbout;
+  AccessibleName = "About";
   for (std::size_t i = 0; i < Lines.size(); ++i) {
     Lines[i] = desktop::Laid(desktop::Kind::Line, "Line", static_cast<int>(i), kLines[i].Covered);
     Lines[i].BackColor = kLines[i].Colour;

@@ -23,6 +23,7 @@ constexpr Place kCommand1{3990, 5640, 1500, 390};
 void frmHelp::LayOut() {
   Clear();
   FillFrame(*this);
+  AccessibleName = "Instructions";
   for (int i = 0; i < 2; ++i) Add(Image1[i] = desktop::Laid(Kind::Image, "Image1", i, kImage1[i]));
   document_ = Instructions(identity::kSupportAddress, identity::kWebSite);
   RichTextBox1 = desktop::Laid(Kind::TextView, "RichTextBox1", 0, kRichTextBox1);

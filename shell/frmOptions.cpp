@@ -27,6 +27,7 @@ constexpr desktop::Colour kColour[] = {{0x000000}, colours::kRed};
 void frmOptions::LayOut() {
   Clear();
   FillFrame(*this);
+  AccessibleName = "Options";
   for (int i = 0; i < 2; ++i) Add(Image1[i] = desktop::Laid(Kind::Image, "Image1", i, kImage1[i]));
   lblTitle = desktop::LaidLabel("lblTitle", 0, kTitle, Align::Centre, "Options");
   lblTitle.Font = {36, true, true, false};

@@ -44,6 +44,7 @@ std::string OnThreeLines(std::string_view word) { return "\r\n" + std::string(wo
 void frmSplash::LayOut() {
   Clear();
   FillFrame(*this);
+  AccessibleName = identity::kTitle;
 
   fraMainFrame = desktop::Laid(desktop::Kind::Panel, "fraMainFrame", 0, kPanel);
   fraMainFrame.BackColor = colours::kTable;

@@ -39,6 +39,7 @@ Element Link(std::string_view name, const Place& place, std::string_view address
 void frmSupport::LayOut() {
   Clear();
   FillFrame(*this);
+  AccessibleName = "Support";
   for (int i = 0; i < 2; ++i) Add(Image1[i] = desktop::Laid(Kind::Image, "Image1", i, kImage1[i]));
   Add(Label1 = Text("Label1", Row(120, 735), "Support", 27.75, colours::kTitle));
   Add(Label2 = Text("Label2", Row(1200, 495), "For All Support Questions", 18, colours::kRed));

@@ -33,6 +33,7 @@ void frmGame::LayOutTable() {
   Width = places::kTable.Width / desktop::kTwipsPerPixel;
   Height = places::kTable.Height / desktop::kTwipsPerPixel;
   BackColor = colours::kTable;
+  AccessibleName = texts::kTable;
 
   Shape1 = Laid(Kind::Shape, "Shape1", 0, places::kShape1);
   Shape1.BackColor = colours::kCloth;

@@ -4,8 +4,24 @@
 #include <utility>
 
 #include "desktop/common/keyboard.h"
+#include "desktop/common/rect.h"
 
 namespace desktop::common {
+
+namespace {
+
+Rect PlaceOf(const Form& form) {
+  return {static_cast<int>(form.Left), static_cast<int>(form.Top), form.Width, form.Height};
+}
+
+/// Whether one of the forms in front of `form` leaves nothing of it in view.
+bool IsCovered(const Form& form, const std::vector<Form*>& forms) {
+  const auto at = std::ranges::find(forms, &form);
+  return std::any_of(at + 1, forms.end(),
+                     [&](const Form* front) { return PlaceOf(*front).United(PlaceOf(form)) == PlaceOf(*front); });
+}
+
+}  // namespace
 
 Views::Views(const Frame& frame, std::function<View*(Form&)> make) : frame_(frame), make_(std::move(make)) {}
 
@@ -17,6 +33,7 @@ void Views::Follow() {
     const auto at = views_.find(form);
     View* const view = at != views_.end() ? at->second : views_.emplace(form, make_(*form)).first->second;
     view->Follow();
+    view->Show(!IsCovered(*form, forms));
   }
   FollowOrder();
 }

@@ -15,6 +15,8 @@ class View {
   virtual ~View() = default;
   /// Brings the screen up to what the form's records say now.
   virtual void Follow() = 0;
+  /// One that others hide from view whole does not show, nor is it said to.
+  virtual void Show(bool shown) = 0;
   /// Comes in front of all other views.
   virtual void Raise() = 0;
   /// Its form is the one in front: the keyboard goes to the control that the records name.

@@ -6,7 +6,9 @@
 
 #include "desktop/common/painting.h"
 #include "desktop/qt/canvas.h"
+#include "desktop/qt/form_reading.h"
 #include "desktop/qt/input.h"
+#include "desktop/qt/text.h"
 #include "desktop/qt/text_view.h"
 
 namespace desktop::qt {
@@ -15,6 +17,8 @@ FormView::FormView(Form& form, common::Delivery& delivery, PictureStore& picture
     : QWidget(parent), form_(form), delivery_(delivery), pictures_(pictures) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   installEventFilter(this);
+  DescribeToReaders();
+  setAccessibleName(Text(form.AccessibleName));
   DecodePictures();
 }
 
@@ -35,7 +39,6 @@ void FormView::Follow() {
   FollowControls();
   FollowPointer();
   FollowDescription();
-  show();
 }
 
 void FormView::FollowControls() {

@@ -14,11 +14,13 @@
 namespace desktop::qt {
 
 class FormView : public QWidget, public common::View {
- public:
-  FormView(Form& form, common::Delivery& delivery, PictureStore& pictures, QWidget* parent);
+  Q_OBJECT  // a screen reader's interface is looked up by the class's name
+
+      public : FormView(Form& form, common::Delivery& delivery, PictureStore& pictures, QWidget* parent);
 
   // --- common::View
   void Follow() override;
+  void Show(bool shown) override { setVisible(shown); }
   void Raise() override { raise(); }
   void TakeKeyboard() override;
   void Retire() override;

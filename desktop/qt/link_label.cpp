@@ -9,15 +9,29 @@ namespace desktop::qt {
 
 namespace {
 
-QAccessibleInterface* LinkInterface(const QString& className, QObject* object) {
+/// It takes no focus, but a screen reader can press it.
+class LinkReading : public QAccessibleWidget {
+ public:
+  explicit LinkReading(LinkLabel& link) : QAccessibleWidget(&link, QAccessible::Link), link_(link) {}
+
+  QStringList actionNames() const override { return {pressAction()}; }
+  void doAction(const QString& action) override {
+    if (action == pressAction()) link_.click();
+  }
+
+ private:
+  LinkLabel& link_;
+};
+
+QAccessibleInterface* ReadingOf(const QString& className, QObject* object) {
   if (className != QLatin1String(LinkLabel::staticMetaObject.className())) return nullptr;
-  return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Link);
+  return new LinkReading(static_cast<LinkLabel&>(*object));
 }
 
 }  // namespace
 
 LinkLabel::LinkLabel(PictureStore& pictures, QWidget* parent) : QAbstractButton(parent), pictures_(pictures) {
-  QAccessible::installFactory(LinkInterface);
+  QAccessible::installFactory(ReadingOf);
   setCursor(Qt::PointingHandCursor);
 }
 

@@ -19,6 +19,9 @@ class Shown : public testing::Test {
    public:
     Sheet(Shown& all, const desktop::Form& form) : all_(all), form_(form) { all_.Note("new ", form_); }
     void Follow() override { all_.Note("follow ", form_); }
+    void Show(bool shown) override {
+      if (!shown) all_.Note("covered ", form_);
+    }
     void Raise() override { all_.Note("raise ", form_); }
     void TakeKeyboard() override { all_.Note("keys ", form_); }
     void Retire() override { all_.Note("retire ", form_); }
@@ -37,6 +40,7 @@ class Shown : public testing::Test {
 
   bench::Frame frame;
   bench::Form one{"1"}, two{"2"};
+  void SetUp() override { two.Left = 1; }
   std::vector<std::unique_ptr<Sheet>> sheets;
   Views views{frame,
               [this](desktop::Form& form) { return sheets.emplace_back(std::make_unique<Sheet>(*this, form)).get(); }};
@@ -58,6 +62,18 @@ TEST_F(Shown, AreMadeRaisedAndRetiredWithTheForms) {
   EXPECT_EQ(Follow(), "retire 1; follow 2; raise 2; keys 2; ");
   frame.Show(one);
   EXPECT_EQ(Follow(), "follow 2; new 1; follow 1; raise 2; raise 1; keys 1; ") << "a new one";
+}
+
+TEST_F(Shown, DoNotShowWhereAnotherOneCoversThem) {
+  two.Width = two.Height = 50;
+  two.Left = 10;
+  frame.Show(one);
+  frame.Show(two);
+  EXPECT_EQ(Follow().find("covered"), std::string::npos) << "a small one leaves the table in view";
+  frame.Show(one);
+  EXPECT_EQ(Follow(), "follow 2; covered 2; follow 1; raise 2; raise 1; keys 1; ");
+  two.Left = 51;
+  EXPECT_EQ(Follow(), "follow 2; follow 1; ") << "its edge peeps out";
 }
 
 TEST_F(Shown, GiveTheKeyboardToWhatTheFormInFrontNamesAndOnlyWhenThatChanges) {

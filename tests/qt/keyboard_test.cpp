@@ -63,4 +63,48 @@ TEST_F(Keyboard, TheTableTellsTotalsStakesAndResult) {
     EXPECT_NE(told.find(part), std::string::npos) << part << " is not in " << told;
 }
 
+/// What a screen reader finds on a form that shows: roles and names.
+std::string Read(QWidget& view) {
+  QAccessibleInterface* form = QAccessible::queryAccessibleInterface(&view);
+  std::string read = form->role() == QAccessible::Form ? form->text(QAccessible::Name).toStdString() + ":" : "";
+  for (int i = 0; i < form->childCount(); ++i) {
+    QAccessibleInterface* child = form->child(i);
+    EXPECT_EQ(form->indexOfChild(child), i);
+    EXPECT_EQ(child->parent(), form);
+    if (!child->state().invisible) read += " " + child->text(QAccessible::Name).toStdString() + ",";
+  }
+  return read;
+}
+
+TEST_F(Keyboard, AReaderFindsEachFormByItsNameAndTheTextsOnIt) {
+  EXPECT_EQ(Read(*ViewOf(frame.Splash)),
+            "Thistle and Lantern: Quenby Software, presents, Thistle and Lantern, Exit, Options, Play Game, "
+            "Instructions,");
+  Menu("Support");
+  EXPECT_EQ(Read(*ViewOf(frame.Support)),
+            "Support: Support, For All Support Questions, Email Us at, Or Visit Our Web Site at, "
+            "support@quenby-software.example, https://quenby-software.example, Return,");
+  EXPECT_EQ(ViewOf(frame.Splash), nullptr) << "what lies beneath is not said to be showing";
+  Key(Qt::Key_Escape);
+  StartGame();
+  Menu("About");
+  EXPECT_EQ(Read(*ViewOf(frame.About)), "About: Thistle and Lantern, Version 1.0.0, from Quenby Software, OK,");
+  EXPECT_TRUE(Read(*ViewOf(table)).starts_with("Table: ")) << "a small form leaves it in view";
+  QAccessibleInterface* form = QAccessible::queryAccessibleInterface(ViewOf(frame.About));
+  EXPECT_EQ(form->child(0)->rect().topLeft(), ViewOf(frame.About)->mapToGlobal(QPoint(3 + 64, 3 + 16)))
+      << "at its place";
+}
+
+TEST_F(Keyboard, AReaderCanPressALink) {
+  Menu("Support");
+  auto* link = qobject_cast<QAbstractButton*>(Control(frame.Support, "support@quenby-software.example"));
+  int pressed = 0;
+  QObject::disconnect(link, &QAbstractButton::clicked, nullptr, nullptr);
+  QObject::connect(link, &QAbstractButton::clicked, [&] { ++pressed; });
+  QAccessibleActionInterface* actions = QAccessible::queryAccessibleInterface(link)->actionInterface();
+  EXPECT_EQ(actions->actionNames(), QStringList(QAccessibleActionInterface::pressAction()));
+  actions->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(pressed, 1);
+}
+
 }  // namespace
