@@ -7,10 +7,10 @@ from raster import render_svg
 
 # The smallest of all is set pixel by pixel.
 SET = 16
-# Clear; light, middle and dark gold; black and where it shines; the window from side to flame.
+# Clear; light, middle and dark gold; black; the window from side to flame.
 PAINTS = {".": (0, 0, 0, 0),
           "l": (248, 208, 76, 255), "g": (222, 166, 36, 255), "d": (150, 100, 16, 255),
-          "k": (10, 9, 8, 255), "s": (70, 66, 58, 255),
+          "k": (10, 9, 8, 255),
           "a": (246, 170, 32, 255), "y": (255, 212, 78, 255), "w": (255, 251, 224, 255)}
 
 

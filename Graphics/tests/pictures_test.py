@@ -48,6 +48,12 @@ def edged(image, paint):
     return painted
 
 
+def narrowed(image):
+    width, height = image.size
+    slim = raster.reduce_to(image, width * 3 // 4, height)
+    return raster.on_ground(width, height, "transparent", slim, (width // 8, 0))
+
+
 def on_one_line_of_tones(image):
     tone = np.asarray(image.convert("L"), float)[..., None]
     colours = check.WOOD_MEAN + (tone - tone.mean()) * (0.7, 1.1, 1.3)
@@ -65,7 +71,8 @@ SPOILED = [
     ("ThistleLantern32", cut_from("#FFFFFF"), "fringe"),
     ("ThistleLantern32", lambda image: edged(image, (10, 10, 10)), "dark on"),
     ("ThistleLantern32", lambda image: edged(image, (140, 150, 30)), "gold and black alone"),
-    ("ThistleLantern32", lambda image: image.paste((0, 0, 0, 0), (0, 0, 8, 32)), "of its width"),
+    ("ThistleLantern32", narrowed, "of its width"),
+    ("ThistleLantern32", lambda image: image.paste((0, 0, 0, 0), (0, 0, 32, 4)), "of its height"),
     ("Wood", lambda image: image.paste((90, 60, 20), (0, 200, 400, 203)), "contrast"),
     ("Wood", lambda image: image.point(lambda tone: tone - 6).convert("RGB"), "mean colour"),
     ("Wood", lambda image: image.convert("RGB").filter(ImageFilter.BoxBlur(9)), "no grain"),
@@ -80,6 +87,9 @@ SPOILED_FILES = [
     ("Wood.png", lambda file: Image.open(file).convert("RGB").save(file, "JPEG"), "JPEG"),
     ("MatHeart@2x.png", lambda file: shutil.copy(ALL["MatSpade"].file(catalogue.PICTURES, 2), file),
      "does not show what MatHeart.png shows"),
+    ("ThistleLantern32@2x.png", lambda file: Image.open(file).rotate(90).save(file),
+     "does not show what ThistleLantern32.png shows"),
+    ("ThistleLantern32@2x.png", lambda file: narrowed(Image.open(file)).save(file), "of its width"),
     ("Anidice00@1.25x.png", lambda file: Image.open(file).crop((0, 0, 115, 131)).save(file),
      "115 x 131, not 115 x 132"),
     ("Anidice00@1.5x.png",
