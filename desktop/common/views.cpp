@@ -25,7 +25,7 @@ bool IsCovered(const Form& form, const std::vector<Form*>& forms) {
 
 Views::Views(const Frame& frame, std::function<View*(Form&)> make) : frame_(frame), make_(std::move(make)) {}
 
-void Views::Follow() {
+void Views::Follow(bool atOnce) {
   RetireUnloaded();
   const auto forms = frame_.Children();
   if (!forms.empty()) common::TakeKeyboard(*forms.back());
@@ -36,6 +36,7 @@ void Views::Follow() {
     view->Show(!IsCovered(*form, forms));
   }
   FollowOrder();
+  for (const auto& [form, view] : views_) view->Draw(atOnce);
 }
 
 void Views::RetireUnloaded() {

@@ -13,8 +13,10 @@ namespace desktop::common {
 class View {
  public:
   virtual ~View() = default;
-  /// Brings the screen up to what the form's records say now.
+  /// Takes over what the form's records say now, and marks what must be drawn again.
   virtual void Follow() = 0;
+  /// Draws what is marked: at once, or when the platform finds time for it.
+  virtual void Draw(bool atOnce) = 0;
   /// One that others hide from view whole does not show, nor is it said to.
   virtual void Show(bool shown) = 0;
   /// Comes in front of all other views.
@@ -31,9 +33,9 @@ class Views {
   /// `make` gives a new view, which lives until it is retired.
   Views(const Frame& frame, std::function<View*(Form&)> make);
 
-  /// Makes views for new forms, retires those of unloaded ones, and has all of them follow, stand in the forms' order
-  /// and give the keyboard to the form in front.
-  void Follow();
+  /// Makes views for new forms, retires those of unloaded ones, and has all of them follow, stand in the forms' order,
+  /// give the keyboard to the form in front, and draw.
+  void Follow(bool atOnce = false);
 
  private:
   void RetireUnloaded();

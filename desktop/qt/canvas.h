@@ -26,6 +26,9 @@ class QtCanvas : public common::Canvas {
   /// From now on places count from this point of the widget, in the layout's pixels.
   void BeginAt(QPoint origin);
 
+  /// From now on nothing outside this place is painted.
+  void ClipTo(const common::Rect& place) { painter_.setClipRect(ToQt(place)); }
+
   const common::Scale& scale() const { return scale_; }
 
   const common::TextMeasure& Type() const override { return type_; }

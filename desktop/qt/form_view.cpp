@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <utility>
 
 #include "desktop/common/painting.h"
 #include "desktop/qt/canvas.h"
@@ -34,11 +35,17 @@ void FormView::Follow() {
   setGeometry(qRound(form_.Left), qRound(form_.Top), form_.Width, form_.Height);
   for (const common::Rect& area : drawing_.Follow()) {
     const common::Scale scale(devicePixelRatioF());
-    update(ToQt(scale.Layout(scale.Outward(area)).Moved(form_.Border, form_.Border)));
+    marked_ += ToQt(scale.Layout(scale.Outward(area)).Moved(form_.Border, form_.Border));
   }
   FollowControls();
   FollowPointer();
   FollowDescription();
+}
+
+void FormView::Draw(bool atOnce) {
+  const QRegion marked = std::exchange(marked_, {});
+  if (marked.isEmpty()) return;
+  atOnce ? repaint(marked) : update(marked);
 }
 
 void FormView::FollowControls() {
@@ -92,13 +99,14 @@ void FormView::paintEvent(QPaintEvent* event) {
   common::PaintBorder(canvas, form_, scale);
   canvas.BeginAt({form_.Border, form_.Border});
   const common::Rect inside{0, 0, form_.Width - 2 * form_.Border, form_.Height - 2 * form_.Border};
-  std::vector<common::Rect> damaged;
   for (const QRect& rect : event->region()) {
     const common::Rect area{rect.x() - form_.Border, rect.y() - form_.Border, rect.width(), rect.height()};
-    damaged.push_back(area.Grown(1).Shared(inside));
-    canvas.Fill(scale.Outward(damaged.back()), {form_.BackColor});
+    const common::Rect damaged = area.Grown(1).Shared(inside);
+    // One by one: within a region of several the toolkit draws pictures span by span, on threads of its own.
+    canvas.ClipTo(scale.Outward(damaged));
+    canvas.Fill(scale.Outward(damaged), {form_.BackColor});
+    for (const Element* element : drawing_.Meeting({&damaged, 1})) common::Paint(canvas, *element, scale);
   }
-  for (const Element* element : drawing_.Meeting(damaged)) common::Paint(canvas, *element, scale);
 }
 
 /// The pixel of the layout that is shown where the event was.

@@ -1,6 +1,7 @@
 // A form on the screen: a canvas for its images and labels, widgets for its controls.
 #pragma once
 
+#include <QRegion>
 #include <QWidget>
 #include <map>
 
@@ -20,6 +21,7 @@ class FormView : public QWidget, public common::View {
 
   // --- common::View
   void Follow() override;
+  void Draw(bool atOnce) override;
   void Show(bool shown) override { setVisible(shown); }
   void Raise() override { raise(); }
   void TakeKeyboard() override;
@@ -50,6 +52,7 @@ class FormView : public QWidget, public common::View {
   PictureStore& pictures_;
   TypeMeasure type_;
   common::Drawing drawing_{form_, type_};
+  QRegion marked_;  ///< to be drawn again
   std::map<const Element*, Control*> controls_;
   PointerShape shape_ = PointerShape::Default;
   QString description_;

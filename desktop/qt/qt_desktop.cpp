@@ -47,7 +47,8 @@ void QtDesktop::ShowFrame(Frame& frame) {
 }
 
 void QtDesktop::RunEventsUntil(double moment) {
-  Follow();
+  // At once: else the platform would wake the program once more for it, some milliseconds later.
+  Follow(true);
   const double left = moment - Clock();
   if (left <= 0) return;
   EventLoopRest rest(left);

@@ -48,7 +48,9 @@ class QtDesktop : public Desktop, private common::Screen {
 
  protected:
   // --- common::Screen
-  void Follow() override { views_->Follow(); }
+  void Follow() override { Follow(false); }
+  /// What has changed is drawn at once, or when the platform finds time for it.
+  virtual void Follow(bool atOnce) { views_->Follow(atOnce); }
 
  private:
   common::Waits waits_;

@@ -19,6 +19,9 @@ class Shown : public testing::Test {
    public:
     Sheet(Shown& all, const desktop::Form& form) : all_(all), form_(form) { all_.Note("new ", form_); }
     void Follow() override { all_.Note("follow ", form_); }
+    void Draw(bool atOnce) override {
+      if (atOnce) all_.Note("at once ", form_);
+    }
     void Show(bool shown) override {
       if (!shown) all_.Note("covered ", form_);
     }

@@ -58,8 +58,8 @@ class WitnessedDesktop : public desktop::qt::QtDesktop {
   }
 
  protected:
-  void Follow() override {
-    QtDesktop::Follow();
+  void Follow(bool atOnce) override {
+    QtDesktop::Follow(atOnce);
     witness_->Look();
   }
 
