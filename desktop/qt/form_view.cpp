@@ -101,11 +101,12 @@ void FormView::paintEvent(QPaintEvent* event) {
   const common::Rect inside{0, 0, form_.Width - 2 * form_.Border, form_.Height - 2 * form_.Border};
   for (const QRect& rect : event->region()) {
     const common::Rect area{rect.x() - form_.Border, rect.y() - form_.Border, rect.width(), rect.height()};
-    const common::Rect damaged = area.Grown(1).Shared(inside);
     // One by one: within a region of several the toolkit draws pictures span by span, on threads of its own.
-    canvas.ClipTo(scale.Outward(damaged));
-    canvas.Fill(scale.Outward(damaged), {form_.BackColor});
-    for (const Element* element : drawing_.Meeting({&damaged, 1})) common::Paint(canvas, *element, scale);
+    const common::Rect device = scale.Outward(area.Grown(1).Shared(inside));
+    canvas.ClipTo(device);
+    canvas.Fill(device, {form_.BackColor});
+    const common::Rect touched = scale.Layout(device).Grown(1);
+    for (const Element* element : drawing_.Meeting({&touched, 1})) common::Paint(canvas, *element, scale);
   }
 }
 
