@@ -47,6 +47,7 @@ class Desk:
         self.size = size
         self.display = None
         self._children = []
+        self._endings = []
 
     def __enter__(self):
         self._folder = tempfile.TemporaryDirectory(prefix="desk-", ignore_cleanup_errors=True)
@@ -61,6 +62,8 @@ class Desk:
         return self
 
     def __exit__(self, *_):
+        for ending in self._endings:
+            ending()
         if self.display:
             self.display.close()
         for child in reversed(self._children):
@@ -76,6 +79,10 @@ class Desk:
         self._children.append(start(command, env={**kept, "DISPLAY": self.name, **variables}, stdout=words,
                                     stderr=words))
         return self._children[-1]
+
+    def at_end(self, ending):
+        """Has `ending` called before all that was started here is stopped."""
+        self._endings.append(ending)
 
     def _start_server(self):
         for program in filter(None, ("Xvfb", self.window_manager)):
