@@ -28,7 +28,9 @@ void LoadCarried(const Font& font) {
 
 }  // namespace
 
-Fonts::Fonts(common::Scale scale) : scale_(scale), context_(CreateCompatibleDC(nullptr)) {}
+Fonts::Fonts(common::Scale scale) : scale_(scale), ground_(MakeDib({1, 1})), context_(CreateCompatibleDC(nullptr)) {
+  SelectObject(context_.get(), ground_.bitmap.get());
+}
 
 HFONT Fonts::OfHeight(int pixels, const Font& font) const {
   Type& type = types_[{pixels, font.bold, font.italic, font.underline}];

@@ -8,6 +8,7 @@
 
 #include "desktop/common/document_layout.h"
 #include "desktop/common/scale.h"
+#include "desktop/win32/dib.h"
 #include "desktop/win32/handles.h"
 
 namespace desktop::win32 {
@@ -35,6 +36,7 @@ class Fonts : public common::DocumentMeasure {
   int Extent(std::wstring_view text, HFONT type) const;
 
   common::Scale scale_;
+  Dib ground_;  ///< of the kind that is painted on: on another, type may have other widths
   Context context_;
   mutable std::map<Key, Type> types_;
 };
