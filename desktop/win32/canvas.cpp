@@ -9,17 +9,16 @@ namespace desktop::win32 {
 
 namespace {
 
-/// How far apart letters stand so that a text comes out `wanted` wide. Empty where it is no wider by itself.
-std::vector<INT> Squeezed(HDC context, const std::wstring& text, int wanted) {
-  const int count = static_cast<int>(text.size());
+/// How far each letter of a text stands from the one before, the text being no wider than `most`. Told outright: what
+/// the system draws by itself may have other widths than it measures.
+std::vector<INT> StepsOf(HDC context, const std::wstring& text, int most) {
   std::vector<INT> ends(text.size());
   SIZE size{};
-  GetTextExtentExPointW(context, text.data(), count, 0, nullptr, ends.data(), &size);
-  if (size.cx <= wanted) return {};
+  GetTextExtentExPointW(context, text.data(), static_cast<int>(text.size()), 0, nullptr, ends.data(), &size);
   std::vector<INT> steps;
   int before = 0;
   for (const INT end : ends) {
-    const int now = MulDiv(end, wanted, size.cx);
+    const int now = size.cx > most ? MulDiv(end, most, size.cx) : end;
     steps.push_back(now - before);
     before = now;
   }
@@ -82,9 +81,9 @@ void WindowCanvas::Write(const common::TextLine& line, const Font& font, Colour 
   const std::wstring text = Wide(line.text);
   SelectObject(context_.get(), materials_.fonts.At(font));
   SetTextColor(context_.get(), ToWindows(colour));
-  const std::vector<INT> steps = Squeezed(context_.get(), text, scale.Device(line.width));
+  const std::vector<INT> steps = StepsOf(context_.get(), text, scale.Device(line.width));
   ExtTextOutW(context_.get(), scale.Device(line.left), scale.Device(line.top), 0, nullptr, text.data(),
-              static_cast<UINT>(text.size()), steps.empty() ? nullptr : steps.data());
+              static_cast<UINT>(text.size()), steps.data());
 }
 
 }  // namespace desktop::win32

@@ -19,10 +19,11 @@ int ThemedState(bool set, bool pressed) {
   return pressed ? RBS_UNCHECKEDPRESSED : RBS_UNCHECKEDNORMAL;
 }
 
-/// At the left edge, halfway up.
+/// In the middle, which leaves room for the marks of the keyboard around it.
 RECT MarkIn(const RECT& box, SIZE size) {
+  const LONG left = (box.left + box.right - size.cx) / 2;
   const LONG top = (box.top + box.bottom - size.cy) / 2;
-  return {box.left, top, box.left + size.cx, top + size.cy};
+  return {left, top, left + size.cx, top + size.cy};
 }
 
 }  // namespace

@@ -46,7 +46,7 @@ TEST_F(SettingsStoreTest, ReadingMakesNothing) {
 }
 
 TEST_F(SettingsStoreTest, OddTextsAreNoTexts) {
-  Put(REG_MULTI_SZ, {L"Stash0=7\0no line\0=\0Stash1=1", 26});  // and no zero behind the last
+  Put(REG_MULTI_SZ, {L"Stash0=7\0no line\0=\0Stash1=1", 27});  // and no zero behind the last
   EXPECT_EQ(Read("Stash0"), "7");
   EXPECT_EQ(Read("Stash1"), "1");
   EXPECT_EQ(Read("no line"), "none");
