@@ -102,7 +102,7 @@ class Windows(unittest.TestCase):
         self.desk.release()
         wait_until("a selection", lambda: self.view().tobytes() != start.tobytes())
         self.desk.key("Control_L", "c")
-        wait_until("the words", lambda: "simple betting game" in launch(self.desk).clipboard())
+        wait_until("the words", lambda: "simple betting game" in self.desk.clipboard())
 
     def wheel_up(self):
         self.desk.move(*self.game.at(300, 200))

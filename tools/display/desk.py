@@ -167,6 +167,21 @@ class Desk:
         """The pixels of the pointer as it is shown now."""
         return bytes(value & 255 for value in self.display.xfixes_get_cursor_image(self.root).cursor_image)
 
+    def clipboard(self):
+        """The text that was copied last, or an empty one."""
+        asker = self.root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        atom = self.display.intern_atom
+        asker.convert_selection(atom("CLIPBOARD"), atom("UTF8_STRING"), atom("COPIED"), X.CurrentTime)
+        end = time.monotonic() + 1
+        while time.monotonic() < end:
+            self.display.sync()
+            while self.display.pending_events():
+                if self.display.next_event().type == X.SelectionNotify:
+                    copied = asker.get_full_property(atom("COPIED"), X.AnyPropertyType)
+                    return copied.value.decode() if copied else ""
+            time.sleep(0.02)
+        return ""
+
     # --- Windows and pixels
 
     def picture(self, left, top, width, height):

@@ -50,29 +50,34 @@ class Windows:
         desk.start([wine.SERVER, "--foreground", "--persistent"], **wine.variables(self.folder))
         desk.at_end(lambda: wine.end(self.folder))
 
-    def _registry(self, *words):
+    def _run(self, *words):
+        """Runs one of Wine's own programs, and returns what it says."""
         environment = {"PATH": os.environ["PATH"], "DISPLAY": self.desk.name, "HOME": self.desk.home}
         # Not through a pipe: what Wine starts on the side would hold it open.
         with tempfile.TemporaryFile("w+") as said:
-            wine.run(self.folder, "reg", *words, environment=environment, stdin=subprocess.DEVNULL, stdout=said,
+            wine.run(self.folder, *words, environment=environment, stdin=subprocess.DEVNULL, stdout=said,
                      stderr=subprocess.DEVNULL)
             said.seek(0)
             return said.read()
 
     def start(self, scale, **variables):
-        self._registry("add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD", "/d",
-                       str(round(96 * scale)), "/f")
+        self._run("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD", "/d",
+                  str(round(96 * scale)), "/f")
         return self.desk.start([wine.LOADER, program()], **wine.variables(self.folder), **variables)
 
     def settings(self):
-        for line in self._registry("query", self.KEY, "/v", SECTION).splitlines():
+        for line in self._run("reg", "query", self.KEY, "/v", SECTION).splitlines():
             if "REG_MULTI_SZ" in line:
                 return dict(value.split("=", 1) for value in line.split(None, 2)[2].split(r"\0") if value)
         return {}
 
     def write_settings(self, values):
         lines = r"\0".join(f"{key}={value}" for key, value in values.items())
-        self._registry("add", self.KEY, "/v", SECTION, "/t", "REG_MULTI_SZ", "/d", lines, "/f")
+        self._run("reg", "add", self.KEY, "/v", SECTION, "/t", "REG_MULTI_SZ", "/d", lines, "/f")
+
+    def end_session(self):
+        """What the system tells all programs when its user logs off."""
+        self._run("wineboot", "--end-session")
 
 
 @functools.lru_cache(1)
