@@ -51,7 +51,7 @@ void FormView::Follow() {
   FollowPointer();
   FollowMouse();
   FollowDescription();
-  ShowWindow(handle(), SW_SHOWNA);
+  if (!IsWindowVisible(handle())) ShowWindow(handle(), SW_SHOWNA);
   // Where events come one upon the other, it would wait for a gap between them.
   if (changed) UpdateWindow(handle());
 }
@@ -73,7 +73,8 @@ void FormView::FollowControls() {
       SetWindowPos(window, nullptr, place.left, place.top, place.width, place.height, SWP_NOZORDER | SWP_NOACTIVATE);
     if ((IsWindowEnabled(window) != FALSE) != element->Enabled) EnableWindow(window, element->Enabled);
     standing.control->Follow(*element);
-    ShowWindow(window, element->Visible ? SW_SHOWNA : SW_HIDE);
+    if (std::exchange(standing.visible, element->Visible) != element->Visible)
+      ShowWindow(window, element->Visible ? SW_SHOWNA : SW_HIDE);
   }
 }
 

@@ -37,6 +37,7 @@ class FormView : public Window, public common::View {
   struct Standing {
     std::unique_ptr<Control> control;
     common::Rect place;
+    bool visible = false;
   };
 
   void DecodePictures();

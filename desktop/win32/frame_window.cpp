@@ -36,9 +36,8 @@ void FrameWindow::Appear() {
   SetMenu(handle(), menu_.handle());
   scale_ = ScaleOf(GetDpiForWindow(handle()));
   rescale_(scale_);
-  const SIZE outer = OuterSize();
   appeared_ = true;
-  SetWindowPos(handle(), nullptr, place.x, place.y, outer.cx, outer.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+  StandAt(place);
   ShowWindow(handle(), SW_SHOWNORMAL);
 }
 
@@ -46,12 +45,28 @@ common::Size FrameWindow::FixedSize() const {
   return {scale_.Device(frame_.ClientWidth), scale_.Device(frame_.ClientHeight)};
 }
 
-SIZE FrameWindow::OuterSize() const {
+SIZE FrameWindow::ReckonedSize() const {
   const common::Size inside = FixedSize();
   RECT rect{0, 0, inside.width, inside.height};
   const auto dpi = static_cast<UINT>(std::lround(scale_.ratio() * USER_DEFAULT_SCREEN_DPI));
   AdjustWindowRectExForDpi(&rect, kStyle, TRUE, 0, dpi);
   return {rect.right - rect.left, rect.bottom - rect.top};
+}
+
+/// Takes the fixed size, at this place.
+void FrameWindow::StandAt(POINT place) {
+  const auto stand = [&] {
+    SetWindowPos(handle(), nullptr, place.x, place.y, outer_.cx, outer_.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+  };
+  outer_ = ReckonedSize();
+  stand();
+  // The decoration may be another than was reckoned: a menu of two lines, a theme.
+  const common::Size inside = Look().size;
+  const common::Size fixed = FixedSize();
+  if (inside == fixed) return;
+  outer_.cx += fixed.width - inside.width;
+  outer_.cy += fixed.height - inside.height;
+  stand();
 }
 
 common::WindowLook FrameWindow::Look() const {
@@ -89,18 +104,19 @@ void FrameWindow::SnapBack() {
   // No window is left at half the screen: none here refuses a size for that.
   constexpr common::Size kNoRoom{};
   if (!snapBack_.Wishes(Look(), FixedSize(), kNoRoom)) return;
-  const SIZE outer = OuterSize();
-  const POINT place = Place();
   // A drag of the upper or left border has moved it, too.
-  SetWindowPos(handle(), nullptr, place.x, place.y, outer.cx, outer.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+  StandAt(Place());
   SetTimer(handle(), kSnapTimer, kBeforeSecondLook, nullptr);
 }
 
 void FrameWindow::Rescale(UINT dpi, const RECT& suggested) {
   scale_ = ScaleOf(dpi);
   rescale_(scale_);
-  const SIZE outer = OuterSize();
-  SetWindowPos(handle(), nullptr, suggested.left, suggested.top, outer.cx, outer.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+  const common::Rect room = FromWindows(suggested);
+  if (IsZoomed(handle()))
+    SetWindowPos(handle(), nullptr, room.left, room.top, room.width, room.height, SWP_NOZORDER | SWP_NOACTIVATE);
+  else
+    StandAt({room.left, room.top});
   InvalidateRect(handle(), nullptr, FALSE);
 }
 
@@ -139,11 +155,9 @@ LRESULT FrameWindow::Handle(UINT message, WPARAM wide, LPARAM details) {
       const LRESULT part = Default(message, wide, details);
       return IsBorder(part) ? HTBORDER : part;
     }
-    case WM_GETMINMAXINFO: {
-      const SIZE outer = OuterSize();
-      reinterpret_cast<MINMAXINFO*>(details)->ptMinTrackSize = {outer.cx, outer.cy};
+    case WM_GETMINMAXINFO:
+      reinterpret_cast<MINMAXINFO*>(details)->ptMinTrackSize = {outer_.cx, outer_.cy};
       return 0;
-    }
     case WM_DPICHANGED:
       Rescale(LOWORD(wide), *reinterpret_cast<const RECT*>(details));
       return 0;

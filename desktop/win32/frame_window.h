@@ -29,7 +29,8 @@ class FrameWindow : public Window {
 
  private:
   common::Size FixedSize() const;
-  SIZE OuterSize() const;
+  SIZE ReckonedSize() const;
+  void StandAt(POINT place);
   common::WindowLook Look() const;
   POINT Place() const;
   void Paint() const;
@@ -44,6 +45,7 @@ class FrameWindow : public Window {
   std::function<void(common::Scale)> rescale_;
   MenuBar menu_;
   common::Scale scale_;  ///< of the screen on which it stands
+  SIZE outer_{};         ///< the fixed size with the decoration
   common::SnapBack snapBack_;
   bool appeared_ = false;
 };
