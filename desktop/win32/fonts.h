@@ -14,7 +14,7 @@
 namespace desktop::win32 {
 
 /// The carried type on a screen of one scale. Hinted for the screen, type may be wider than it was drawn; here no text
-/// counts as wider than that, and none is written wider, so that lines break alike on every screen.
+/// counts as wider than that, and none is written wider, so that no caption outgrows its box on any screen.
 class Fonts : public common::DocumentMeasure {
  public:
   explicit Fonts(common::Scale scale);
