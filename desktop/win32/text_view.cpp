@@ -101,10 +101,10 @@ void TextView::ScrollBy(common::Scroll scroll) {
                              {Scroll::PageUp, SB_PAGEUP}, {Scroll::PageDown, SB_PAGEDOWN},
                              {Scroll::ToStart, SB_TOP},   {Scroll::ToEnd, SB_BOTTOM}};
   for (const auto& [step, action] : kSteps)
-    if (step == scroll) DragBar(action);
+    if (step == scroll) MoveBar(action);
 }
 
-void TextView::DragBar(int action) {
+void TextView::MoveBar(int action) {
   SCROLLINFO bar{};
   bar.cbSize = sizeof bar;
   bar.fMask = SIF_ALL;
@@ -155,7 +155,7 @@ LRESULT TextView::Handle(UINT message, WPARAM wide, LPARAM details) {
       InvalidateRect(handle(), nullptr, FALSE);
       return 0;
     case WM_VSCROLL:
-      DragBar(LOWORD(wide));
+      MoveBar(LOWORD(wide));
       return 0;
     case WM_MOUSEWHEEL:
       Wheel(GET_WHEEL_DELTA_WPARAM(wide));
@@ -208,7 +208,7 @@ void TextView::SelectUnder(LPARAM point) {
 }
 
 void TextView::FollowMouse() {
-  DragBar(GET_Y_LPARAM(mouse_) < 0 ? SB_LINEUP : SB_LINEDOWN);
+  MoveBar(GET_Y_LPARAM(mouse_) < 0 ? SB_LINEUP : SB_LINEDOWN);
   SelectUnder(mouse_);
 }
 

@@ -34,7 +34,7 @@ class TextView : public Window, public Control {
   void Paint();
   void PaintLine(WindowCanvas& canvas, const common::DocumentLine& line) const;
   void ScrollTo(int top);
-  void DragBar(int action);
+  void MoveBar(int action);
   int Page() const;
   void Select(LPARAM point);
   void SelectUnder(LPARAM point);

@@ -1,4 +1,4 @@
-// A window that comes to a screen of another scale.
+// The windows of a frame with one form, unseen.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -21,9 +21,16 @@ class OneButton : public Form {
     Width = 100;
     Height = 60;
     Border = 2;
-    Add(button_ = LaidButton("Button", {150, 300, 600, 150}, "Button", kLook));
+    Add(button_ = LaidButton("Button", {150, 300, 600, 150}, "\r\nIts\r\nname\r\n", kLook));
     frame_.Show(*this);
   }
+
+  std::string Description() const override {
+    ++described;
+    return "One button.";
+  }
+
+  mutable int described = 0;
 
  private:
   Frame& frame_;
@@ -53,34 +60,54 @@ RECT PlaceOf(HWND window) {
 
 bool operator==(const RECT& a, const RECT& b) { return EqualRect(&a, &b) != FALSE; }
 
-TEST(RescaleTest, SizesAndPlacesFollowTheScreen) {
-  PlainFrame frame;
-  OneButton form(frame);
-  Win32Desktop desktop;
-  desktop.ShowFrame(frame);
-  frame.Open(form);
-  const auto settle = [&] { desktop.RunEventsUntil(desktop.Clock() + 0.01); };
-  settle();
-  const HWND window = FindWindowW(nullptr, L"A Frame of the Test");
-  ASSERT_TRUE(window);
-  const HWND view = GetWindow(window, GW_CHILD);
-  const HWND button = GetWindow(view, GW_CHILD);
+class Win32DesktopTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    desktop_.ShowFrame(frame_);
+    frame_.Open(form_);
+    Settle();
+    window_ = FindWindowW(nullptr, L"A Frame of the Test");
+    ASSERT_TRUE(window_);
+    view_ = GetWindow(window_, GW_CHILD);
+  }
+
+  void Settle() { desktop_.RunEventsUntil(desktop_.Clock() + 0.01); }
+
+  PlainFrame frame_;
+  OneButton form_{frame_};
+  Win32Desktop desktop_;
+  HWND window_ = nullptr;
+  HWND view_ = nullptr;
+};
+
+TEST_F(Win32DesktopTest, AScreenReaderIsToldWhatItAsksFor) {
+  EXPECT_EQ(form_.described, 0) << "nobody listens";
+  SendMessageW(view_, WM_GETOBJECT, 0, OBJID_CLIENT);
+  wchar_t words[32] = {};
+  GetWindowTextW(view_, words, 32);
+  EXPECT_STREQ(words, L"One button.");
+  GetWindowTextW(GetWindow(view_, GW_CHILD), words, 32);
+  EXPECT_STREQ(words, L"Its name");
+}
+
+TEST_F(Win32DesktopTest, SizesAndPlacesFollowTheScreen) {
+  const HWND button = GetWindow(view_, GW_CHILD);
   EXPECT_TRUE(PlaceOf(button) == (RECT{12, 22, 52, 32}));
   for (const int dpi : {144, 120, 192, 96}) {
     RECT suggested{40, 50, 41, 51};
-    SendMessageW(window, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dpi, dpi)), reinterpret_cast<LPARAM>(&suggested));
-    settle();
+    SendMessageW(window_, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dpi, dpi)), reinterpret_cast<LPARAM>(&suggested));
+    Settle();
     RECT inside{};
-    GetClientRect(window, &inside);
+    GetClientRect(window_, &inside);
     EXPECT_EQ(inside.right, 300 * dpi / 96);
     EXPECT_EQ(inside.bottom, 200 * dpi / 96);
     RECT outside{};
-    GetWindowRect(window, &outside);
+    GetWindowRect(window_, &outside);
     EXPECT_EQ(outside.left, 40);
     EXPECT_EQ(outside.top, 50);
     const auto device = [dpi](int length) { return static_cast<LONG>((length * dpi + 48) / 96); };
     const LONG border = device(2);
-    EXPECT_TRUE(PlaceOf(view) == (RECT{device(10), 0, device(10) + device(100), device(60)})) << dpi;
+    EXPECT_TRUE(PlaceOf(view_) == (RECT{device(10), 0, device(10) + device(100), device(60)})) << dpi;
     EXPECT_TRUE(PlaceOf(button) == (RECT{border + device(10), border + device(20), border + device(10) + device(40),
                                          border + device(20) + device(10)}))
         << dpi;
