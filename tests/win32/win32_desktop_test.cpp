@@ -2,6 +2,11 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <chrono>
+#include <string>
+#include <thread>
+#include <vector>
+
 #include "desktop/building_blocks.h"
 #include "desktop/win32/win32_desktop.h"
 
@@ -45,9 +50,11 @@ class PlainFrame : public Frame {
     ClientHeight = 200;
     Menu = {{"Entry", "Entry", {}}};
   }
-  void MenuClick(std::string_view) override {}
+  void MenuClick(std::string_view name) override { chosen.emplace_back(name); }
   void Resize() override {}
   void Close() override {}
+
+  std::vector<std::string> chosen;
 };
 
 /// In pixels of the parent's inside.
@@ -88,6 +95,26 @@ TEST_F(Win32DesktopTest, AScreenReaderIsToldWhatItAsksFor) {
   EXPECT_STREQ(words, L"One button.");
   GetWindowTextW(GetWindow(view_, GW_CHILD), words, 32);
   EXPECT_STREQ(words, L"Its name");
+}
+
+TEST_F(Win32DesktopTest, ATitleBarThatIsHeldHoldsUpAWaitAndNoMore) {
+  static constexpr double kHeld = 0.3;
+  std::thread player([this] {
+    std::this_thread::sleep_for(std::chrono::duration<double>(kHeld));
+    PostMessageW(window_, WM_COMMAND, 100, 0);
+    PostMessageW(window_, WM_KEYDOWN, VK_ESCAPE, 0);
+  });
+  PostMessageW(window_, WM_SYSCOMMAND, SC_MOVE, 0);
+  const double start = desktop_.Clock();
+  desktop_.RunEventsUntil(start + kHeld / 10);
+  const double took = desktop_.Clock() - start;
+  player.join();
+  EXPECT_EQ(frame_.chosen, std::vector<std::string>{"Entry"}) << "what came meanwhile is not lost";
+  EXPECT_GE(took, kHeld) << "was it held?";
+  EXPECT_LT(took, 2 * kHeld);
+  const double next = desktop_.Clock();
+  while (desktop_.Clock() < next + kHeld) desktop_.RunEventsUntil(next + kHeld);
+  EXPECT_LT(desktop_.Clock(), next + 2 * kHeld) << "the next wait is as long as ever";
 }
 
 TEST_F(Win32DesktopTest, SizesAndPlacesFollowTheScreen) {
