@@ -166,10 +166,8 @@ LRESULT FrameWindow::Handle(UINT message, WPARAM wide, LPARAM details) {
       Fit();
       break;
     case WM_SHOWWINDOW:
-      if (!wide) delivery_.Hide();
-      break;
     case WM_ACTIVATEAPP:
-      // Another program has come to the front, and with it goes the mouse.
+      // Out of sight, or behind another program that has come to the front: with it goes the mouse.
       if (!wide) delivery_.Hide();
       break;
     case WM_SETFOCUS:

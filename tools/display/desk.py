@@ -167,6 +167,15 @@ class Desk:
         """The pixels of the pointer as it is shown now."""
         return bytes(value & 255 for value in self.display.xfixes_get_cursor_image(self.root).cursor_image)
 
+    def take_keyboard(self):
+        """Opens a window of another program, which takes the keyboard. Returns it."""
+        other = self.root.create_window(0, 0, 50, 50, 0, X.CopyFromParent)
+        other.map()
+        wait_until("a window of another program", Window(self, other).is_shown)
+        other.set_input_focus(X.RevertToParent, X.CurrentTime)
+        self.display.sync()
+        return other
+
     def clipboard(self):
         """The text that was copied last, or an empty one."""
         asker = self.root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
