@@ -176,6 +176,10 @@ LRESULT TextView::Handle(UINT message, WPARAM wide, LPARAM details) {
       selecting_ = false;
       KillTimer(handle(), kScrollTimer);
       return 0;
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+    case WM_CHAR:
+      return SendMessageW(GetParent(handle()), message, wide, details);
     case WM_SETCURSOR:
       if (LOWORD(details) != HTCLIENT) break;
       SetCursor(LoadCursorW(nullptr, IDC_IBEAM));

@@ -63,7 +63,8 @@ class Windows:
     def start(self, scale, **variables):
         self._run("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD", "/d",
                   str(round(96 * scale)), "/f")
-        return self.desk.start([wine.LOADER, program()], **wine.variables(self.folder), **variables)
+        # A windowed program says nothing; what is said is Wine's own.
+        return self.desk.start([wine.LOADER, program()], quiet=True, **wine.variables(self.folder), **variables)
 
     def settings(self):
         for line in self._run("reg", "query", self.KEY, "/v", SECTION).splitlines():
