@@ -1,8 +1,8 @@
 #include "game/settings.h"
 
+#include <algorithm>
 #include <cmath>
-#include <locale>
-#include <sstream>
+#include <cstdlib>
 #include <string>
 
 namespace thistle::settings {
@@ -34,18 +34,31 @@ std::size_t NumberLength(std::string_view text) {
   return digits() > 0 ? at : mantissa;
 }
 
+/// The same number with its digits as a whole one, so that there is no point whose look depends on the user's
+/// language: "12.5e3" as "125e2".
+std::string WithoutPoint(std::string_view number) {
+  constexpr long kFar = 100000;  // no double has such an exponent
+  const auto end = std::min(number.find_first_of("eE"), number.size());
+  std::string plain(number.substr(0, end));
+  long exponent = 0;
+  for (std::size_t at = end + 1; at < number.size(); ++at)
+    if (IsDigit(number[at])) exponent = std::min(10 * exponent + (number[at] - '0'), kFar);
+  if (end + 1 < number.size() && number[end + 1] == '-') exponent = -exponent;
+  if (const auto point = plain.find('.'); point != std::string::npos) {
+    exponent -= static_cast<long>(plain.size() - point - 1);
+    plain.erase(point, 1);
+  }
+  return plain + "e" + std::to_string(exponent);
+}
+
 std::optional<double> ParseNumber(std::string_view text) {
   const auto start = text.find_first_not_of(" \t\r\n\v\f");
   if (start == std::string_view::npos) return std::nullopt;
   text.remove_prefix(start);
   const std::size_t length = NumberLength(text);
   if (length == 0) return std::nullopt;
-  // A point is a point whatever the user's language. from_chars would do, but some libraries lack it.
-  std::istringstream stream{std::string(text.substr(0, length))};
-  stream.imbue(std::locale::classic());
-  double number = 0;
-  stream >> number;
-  return number;
+  // from_chars would do, but some libraries lack it.
+  return std::strtod(WithoutPoint(text.substr(0, length)).c_str(), nullptr);
 }
 
 }  // namespace

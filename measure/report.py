@@ -151,7 +151,7 @@ def measure_rules(program):
 def measure_size(game):
     carried = {name: sum(file.stat().st_size for file in ROOT.glob(pattern)) for name, pattern in (
         ("pictures", "Graphics/pictures/*.png"), ("recordings", "sounds/recordings/*.wav"),
-        ("fonts", "desktop/qt/fonts/*.ttf"))}
+        ("fonts", "desktop/fonts/*.ttf"))}
     parts = ", ".join(f"{name} {size / 1e6:.1f}" for name, size in carried.items())
     return [("Size of the program, MB", f"{game.stat().st_size / 1e6:.1f}", "", ""),
             ("of which it carries, MB", parts, "", "")]

@@ -26,9 +26,9 @@ if(NOT PROJECT_VERSION STREQUAL "${major}.${minor}.${revision}")
 endif()
 
 file(READ ${CMAKE_SOURCE_DIR}/LICENSE LICENCE)
-file(READ ${CMAKE_SOURCE_DIR}/desktop/qt/fonts/OFL.txt FONT_LICENCE)
+file(READ ${CMAKE_SOURCE_DIR}/desktop/fonts/OFL.txt FONT_LICENCE)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
-  ${CMAKE_SOURCE_DIR}/game/identity.h ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_SOURCE_DIR}/desktop/qt/fonts/OFL.txt)
+  ${CMAKE_SOURCE_DIR}/game/identity.h ${CMAKE_SOURCE_DIR}/LICENSE ${CMAKE_SOURCE_DIR}/desktop/fonts/OFL.txt)
 
 set(made ${CMAKE_BINARY_DIR}/packaging)
 configure_file(${packaging}/copyright.in ${made}/copyright @ONLY)

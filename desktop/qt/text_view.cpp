@@ -7,8 +7,8 @@
 #include <QTextImageFormat>
 #include <QToolTip>
 #include <QUrl>
-#include <cmath>
 
+#include "desktop/common/ground.h"
 #include "desktop/common/scale.h"
 #include "desktop/qt/canvas.h"
 #include "desktop/qt/text.h"
@@ -17,20 +17,9 @@ namespace desktop::qt {
 
 namespace {
 
-/// Relative luminance below which black text becomes hard to read: a contrast of 4.5 to 1.
-constexpr double kDarkest = 0.175;
-
-double Luminance(const QColor& colour) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-}
-
-/// The platform's colour for tooltips, or a pale one where black text could not be read on it.
 QColor Ground() {
   const QColor tooltip = QToolTip::palette().color(QPalette::ToolTipBase);
-  return Luminance(tooltip) > kDarkest ? tooltip : QColor(0xFF, 0xFF, 0xE1);
+  return ToQt(common::TextGround({tooltip.rgb() & 0xFFFFFF}));
 }
 
 QTextCharFormat Format(const TextStyle& style) {

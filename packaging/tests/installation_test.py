@@ -28,7 +28,7 @@ class Installation(unittest.TestCase):
 
     def test_licences_are_whole(self):
         text = (TREE / f"share/doc/{NAME}/copyright").read_text()
-        for licence in ("LICENSE", "desktop/qt/fonts/OFL.txt"):
+        for licence in ("LICENSE", "desktop/fonts/OFL.txt"):
             self.assertIn((HOME / licence).read_text().strip(), text)
 
     def test_icons_have_their_sizes_and_are_the_same_on_other_systems(self):

@@ -48,6 +48,7 @@ class Desk:
         self.size = size
         self.display = None
         self._children = []
+        self._endings = []
 
     def __enter__(self):
         self._folder = tempfile.TemporaryDirectory(prefix="desk-", ignore_cleanup_errors=True)
@@ -62,6 +63,8 @@ class Desk:
         return self
 
     def __exit__(self, *_):
+        for ending in self._endings:
+            ending()
         if self.display:
             self.display.close()
         for child in reversed(self._children):
@@ -90,6 +93,10 @@ class Desk:
         """The display goes, with all that is on it."""
         self.display = None
         stop(self._children[0])
+
+    def at_end(self, ending):
+        """Has `ending` called before all that was started here is stopped."""
+        self._endings.append(ending)
 
     def _start_server(self):
         for program in filter(None, ("Xvfb", self.window_manager)):
@@ -173,6 +180,30 @@ class Desk:
     def pointer_shape(self):
         """The pixels of the pointer as it is shown now."""
         return bytes(value & 255 for value in self.display.xfixes_get_cursor_image(self.root).cursor_image)
+
+    def take_keyboard(self):
+        """Opens a window of another program, which takes the keyboard. Returns it."""
+        other = self.root.create_window(0, 0, 50, 50, 0, X.CopyFromParent)
+        other.map()
+        wait_until("a window of another program", Window(self, other).is_shown)
+        other.set_input_focus(X.RevertToParent, X.CurrentTime)
+        self.display.sync()
+        return other
+
+    def clipboard(self):
+        """The text that was copied last, or an empty one."""
+        asker = self.root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        atom = self.display.intern_atom
+        asker.convert_selection(atom("CLIPBOARD"), atom("UTF8_STRING"), atom("COPIED"), X.CurrentTime)
+        end = time.monotonic() + 1
+        while time.monotonic() < end:
+            self.display.sync()
+            while self.display.pending_events():
+                if self.display.next_event().type == X.SelectionNotify:
+                    copied = asker.get_full_property(atom("COPIED"), X.AnyPropertyType)
+                    return copied.value.decode() if copied else ""
+            time.sleep(0.02)
+        return ""
 
     # --- Windows and pixels
 

@@ -1,15 +1,13 @@
 """A run of the game on a display: where everything stands, and what a player sees and does."""
 
-import configparser
 import functools
 import math
-import os
 import pathlib
-import subprocess
 
 from PIL import Image, ImageChops
 
 from desk import stop, wait_until
+from launch import launch
 
 PICTURES = pathlib.Path(__file__).parents[2] / "Graphics" / "pictures"
 TITLE = "Thistle and Lantern"
@@ -147,7 +145,7 @@ TEXTS = MONEY_TEXTS + INSTRUCTIONS[:1] + [GET_CHANGE]  # of a turn that opens
 
 
 def under_menu(picture, scale=1):
-    return picture.crop((0, picture.height - math.floor(CLIENT[1] * scale), picture.width, picture.height))
+    return picture.crop((0, picture.height - device(CLIENT[1], scale), picture.width, picture.height))
 
 
 class Game:
@@ -158,10 +156,10 @@ class Game:
     def __init__(self, desk, scale=1, **variables):
         self.desk = desk
         self.scale = scale
-        self.variables = {"QT_SCALE_FACTOR": str(scale), **variables}
+        self.variables = variables
 
     def __enter__(self):
-        self.process = self.desk.start([os.environ["GAME"]], pipes=self.pipes, **self.variables)
+        self.process = launch(self.desk).start(self.scale, self.pipes, **self.variables)
         try:
             self.window = wait_until("the game's window", self._find_window)
             wait_until("the opening form", self.shows_opening)
@@ -210,7 +208,7 @@ class Game:
     def corner(self):
         """The pixel of the screen at which the area under the menu bar begins, in the normal state."""
         left, top, _, height = self.window.rect()
-        return left, top + height - math.floor(CLIENT[1] * self.scale)
+        return left, top + height - device(CLIENT[1], self.scale)
 
     def canvas(self):
         """What the window shows under its menu bar, in the normal state."""
@@ -278,19 +276,10 @@ class Game:
         return self.process.wait(timeout=30)
 
 
-def settings_file(desk):
-    return pathlib.Path(desk.home, "config", TITLE, "Settings.conf")
-
-
 def settings(desk):
     """The stored values as texts, by key."""
-    store = configparser.ConfigParser()
-    store.optionxform = str
-    store.read(settings_file(desk))
-    return dict(store["General"])
+    return launch(desk).settings()
 
 
 def write_settings(desk, **values):
-    path = settings_file(desk)
-    path.parent.mkdir(parents=True, exist_ok=True)
-    path.write_text("[General]\n" + "".join(f"{key}={value}\n" for key, value in values.items()))
+    launch(desk).write_settings(values)

@@ -1,0 +1,50 @@
+#include "desktop/win32/input.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "desktop/form.h"
+
+namespace desktop::win32 {
+
+namespace {
+
+bool IsDown(int key) { return GetKeyState(key) < 0; }
+
+}  // namespace
+
+int PressedBy(UINT message) {
+  if (message == WM_LBUTTONDOWN) return kLeftButton;
+  if (message == WM_RBUTTONDOWN) return kRightButton;
+  return message == WM_MBUTTONDOWN ? kMiddleButton : 0;
+}
+
+int ReleasedBy(UINT message) {
+  if (message == WM_LBUTTONUP) return kLeftButton;
+  if (message == WM_RBUTTONUP) return kRightButton;
+  return message == WM_MBUTTONUP ? kMiddleButton : 0;
+}
+
+int HeldIn(WPARAM flags) {
+  return (flags & MK_LBUTTON ? kLeftButton : 0) | (flags & MK_RBUTTON ? kRightButton : 0) |
+         (flags & MK_MBUTTON ? kMiddleButton : 0);
+}
+
+std::optional<common::Key> KeyOf(WPARAM code) {
+  using common::Key;
+  struct Pair {
+    WPARAM code;
+    Key key;
+  };
+  constexpr Pair kKeys[] = {{VK_RETURN, Key::Enter}, {VK_SPACE, Key::Space},  {VK_ESCAPE, Key::Escape},
+                            {VK_UP, Key::Up},        {VK_DOWN, Key::Down},    {VK_LEFT, Key::Left},
+                            {VK_RIGHT, Key::Right},  {VK_PRIOR, Key::PageUp}, {VK_NEXT, Key::PageDown},
+                            {VK_HOME, Key::Home},    {VK_END, Key::End}};
+  if (code == VK_TAB) return IsDown(VK_SHIFT) ? Key::BackTab : Key::Tab;
+  const auto* found = std::ranges::find(kKeys, code, &Pair::code);
+  return found == std::end(kKeys) ? std::nullopt : std::optional(found->key);
+}
+
+bool IsCopy(WPARAM code) { return (code == 'C' || code == VK_INSERT) && IsDown(VK_CONTROL); }
+
+}  // namespace desktop::win32

@@ -1,0 +1,24 @@
+// Windows' mouse and keys, as the records and the rooms above know them.
+#pragma once
+
+#include <windows.h>
+
+#include <optional>
+
+#include "desktop/common/keyboard.h"
+
+namespace desktop::win32 {
+
+/// The mouse button that a message tells of. 0 for other messages, and for a button that the game has no use for.
+int PressedBy(UINT message);
+int ReleasedBy(UINT message);
+/// The sum of all that are held, from a mouse message's flags.
+int HeldIn(WPARAM flags);
+
+/// None for a key that means nothing on a form.
+std::optional<common::Key> KeyOf(WPARAM code);
+/// Whether a WM_KEYDOWN tells of a key that is held down and repeats.
+inline bool IsRepeated(LPARAM details) { return (details & 1 << 30) != 0; }
+bool IsCopy(WPARAM code);
+
+}  // namespace desktop::win32
