@@ -13,6 +13,7 @@ from game import (BUTTONS, CAPTIONS, CUP, CUP_FRAMES, FRESH, Game, differs_in, p
 from seen import opens_with
 
 KILLS = 16
+ON_WINDOWS = os.environ["GAME"].endswith(".exe")
 
 OLD = {"MainLeft": "1500", "MainTop": "900", "SoundOn": "False", "Stash0": "7", "Stash1": "30", "Stash2": "1"}
 
@@ -75,6 +76,7 @@ class Ending(unittest.TestCase):
                 self.desk.release()
                 self.assert_kept(kept)
 
+    @unittest.skipIf(ON_WINDOWS, "there are no signals, and no display that goes")
     def test_a_signal_ends_the_run_as_a_close_does(self):
         moments = ((signal.SIGTERM, in_shake, [12, 12, 10]), (signal.SIGINT, behind_a_question, FRESH),
                    (signal.SIGHUP, under_a_menu, FRESH), (signal.SIGQUIT, minimised, FRESH))
@@ -87,12 +89,14 @@ class Ending(unittest.TestCase):
                 self.assertEqual(game.ended(), 0)
                 self.assert_kept(kept)
 
+    @unittest.skipIf(ON_WINDOWS, "there are no signals, and no display that goes")
     def test_a_signal_that_was_ignored_from_the_start_stays_so(self):
         with mock.patch.dict(os.environ, GAME=self.desk.launcher("trap '' HUP")), Game(self.desk) as game:
             game.process.send_signal(signal.SIGHUP)
             self.start(game, "n")
             self.assertEqual(game.close(), 0)
 
+    @unittest.skipIf(ON_WINDOWS, "there are no signals, and no display that goes")
     def test_the_money_is_kept_where_the_window_system_breaks_off(self):
         for breaks_off in (lambda game: game.window.kill(), lambda _: self.desk.lose_server()):
             write_settings(self.desk, **OLD)

@@ -108,9 +108,10 @@ class Frame(unittest.TestCase):
     def test_the_first_start_is_in_the_middle_of_what_panels_leave(self):
         panel = self.desk.panel(width=200)
         with Game(self.desk) as game:
-            left, top, width, _ = game.window.frame()
-            self.assertLessEqual(abs(left - (200 + (1280 - 200 - 640) // 2)), 1)
-            self.assertLessEqual(abs(top - 254), 1)
+            left, top, _, _ = game.window.frame()
+            # To the width of a border, as some think that they have one.
+            self.assertLessEqual(abs(left - (200 + (1280 - 200 - 640) // 2)), 4)
+            self.assertLessEqual(abs(top - 254), 4)
         panel.destroy()
 
     def test_place_is_kept_without_creeping(self):
