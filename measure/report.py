@@ -17,6 +17,8 @@ sys.path.insert(0, str(ROOT / "tools" / "display"))
 sys.dont_write_bytecode = True
 
 from desk import Desk, start, stop  # noqa: E402
+from launch import Windows  # noqa: E402
+import wine  # noqa: E402
 
 README = ROOT / "README.md"
 TABLE = re.compile(r"(?<=<!-- figures -->\n).*?(?=<!-- /figures -->)", re.S)
@@ -60,15 +62,21 @@ class Running:
     """A program on a display of its own without a window manager, at the upper left of the screen."""
 
     def __init__(self, desk, program):
-        place = pathlib.Path(desk.home) / "config" / "Thistle and Lantern" / "Settings.conf"
-        place.parent.mkdir(parents=True, exist_ok=True)
-        place.write_text("[General]\nMainLeft=0\nMainTop=0\n")
+        self.prepare(desk)
         begin = time.monotonic()
-        self.process = desk.start([str(program)], quiet=True)
+        self.process = self.start_program(desk, program)
         while desk.picture(*GROUND_AT, 1, 1).getpixel((0, 0)) != GROUND:
             if self.process.poll() is not None:
                 sys.exit(f"{program} has ended before its first frame")
         self.first_paint = 1000 * (time.monotonic() - begin)
+
+    def prepare(self, desk):
+        place = pathlib.Path(desk.home) / "config" / "Thistle and Lantern" / "Settings.conf"
+        place.parent.mkdir(parents=True, exist_ok=True)
+        place.write_text("[General]\nMainLeft=0\nMainTop=0\n")
+
+    def start_program(self, desk, program):
+        return desk.start([str(program)], quiet=True)
 
     def memory(self):
         """Proportional set size in megabytes."""
@@ -91,12 +99,23 @@ class Running:
         stop(self.process)
 
 
-def measure_start(game, bare):
+class RunningOnWine(Running):
+    """The same under Wine, whose server is there already."""
+
+    def prepare(self, desk):
+        self.windows = Windows(desk)
+        self.windows.write_settings({"MainLeft": "0", "MainTop": "0"})
+
+    def start_program(self, desk, program):
+        return desk.start([wine.LOADER, str(program)], quiet=True, **wine.variables(self.windows.folder))
+
+
+def measure_start(game, bare, kind=Running, manager=None):
     paint, memory = {game: [], bare: []}, {game: [], bare: []}
     for _ in range(STARTS):
         for program in (game, bare):
-            with Desk(window_manager=None) as desk:
-                run = Running(desk, program)
+            with Desk(window_manager=manager) as desk:
+                run = kind(desk, program)
                 paint[program].append(run.first_paint)
                 time.sleep(1)
                 memory[program].append(run.memory())
@@ -107,10 +126,10 @@ def measure_start(game, bare):
              ratio(memory[game], memory[bare]))]
 
 
-def measure_idle(game):
+def measure_idle(game, kind=Running):
     rows = []
     with Desk() as desk:
-        run = Running(desk, game)
+        run = kind(desk, game)
         time.sleep(UNTIL_SILENT)
         for form in ("Opening form", "Table"):
             ticks, wakes = run.idle()
@@ -157,6 +176,17 @@ def measure_size(game):
             ("of which it carries, MB", parts, "", "")]
 
 
+def measure_windows(build):
+    """The program for Windows against the smallest one of its kind, both under Wine."""
+    game, bare = build / "thistle-and-lantern.exe", build / "measure" / "measure_bare_window.exe"
+    listed = subprocess.run(["x86_64-w64-mingw32-objdump", "-p", game], capture_output=True, text=True, check=True).stdout
+    imports = sorted(name.removesuffix(".dll") for name in set(re.findall(r"DLL Name: (\S+)", listed)))
+    rows = measure_start(game, bare, RunningOnWine, "openbox") + measure_idle(game, RunningOnWine)
+    rows.append(("Size of the program, MB", f"{game.stat().st_size / 1e6:.2f}", f"{bare.stat().st_size / 1e6:.2f}", ""))
+    rows.append(("Libraries that it needs, all Windows' own", " ".join(imports), "", ""))
+    return [(f"Windows: {what[0].lower() + what[1:]}", *figures) for what, *figures in rows]
+
+
 def main():
     build = pathlib.Path(sys.argv[1])
     game = build / "thistle-and-lantern"
@@ -166,6 +196,7 @@ def main():
     rows += measure_screen(build / "measure" / "measure_screen", busy=2)
     rows += measure_rules(build / "measure" / "measure_rules")
     rows += measure_size(game)
+    rows += measure_windows(pathlib.Path(sys.argv[2]))
     table = "".join("| " + " | ".join(row) + " |\n" for row in rows)
     print(table)
     README.write_text(TABLE.sub(lambda _: table, README.read_text()))

@@ -1,7 +1,8 @@
 # What the project needs of a Debian system, and how to get what is missing. To be sourced.
 # shellcheck shell=bash disable=SC2034
 
-BUILD=(g++ cmake ninja-build qt6-base-dev libsdl2-dev)
+CMAKE=(cmake ninja-build)
+BUILD=(g++ "${CMAKE[@]}" qt6-base-dev libsdl2-dev)
 # The compiler for Windows, and what runs its programs.
 WINDOWS=(g++-mingw-w64-x86-64 wine64)
 # A virtual display, and what plays on it.
