@@ -17,12 +17,12 @@ TEST(AreaAverageTest, EachPixelIsTheMeanOfWhatItCovers) {
   EXPECT_EQ(AreaAveraged({{1, 1}, {7}}, {3, 2}).values, std::vector<std::uint32_t>(6, 7));
 }
 
-}  // namespace
-
-}  // namespace TEST(Cut, KeepsTheUpperLeftPart) {
-const Pixels cut = Cut({{3, 2}, {1, 2, 3, 4, 5, 6}}, {2, 2});
-EXPECT_EQ(cut.size, (Size{2, 2}));
-EXPECT_EQ(cut.values, (std::vector<std::uint32_t>{1, 2, 4, 5}));
+TEST(Cut, KeepsTheUpperLeftPart) {
+  const Pixels cut = Cut({{3, 2}, {1, 2, 3, 4, 5, 6}}, {2, 2});
+  EXPECT_EQ(cut.size, (Size{2, 2}));
+  EXPECT_EQ(cut.values, (std::vector<std::uint32_t>{1, 2, 4, 5}));
 }
 
 }  // namespace
+
+}  // namespace desktop::common
