@@ -1,17 +1,14 @@
 // The real program on Windows, witnessed.
 #include <windows.h>
 
-#include "desktop/win32/input.h"
 #include "desktop/win32/win32_desktop.h"
 #include "tests/hands/witnessed.h"
 
 namespace {
 
 bool IsInput(UINT message) {
-  using desktop::win32::PressedBy;
-  using desktop::win32::ReleasedBy;
-  return PressedBy(message) || ReleasedBy(message) || message == WM_LBUTTONDBLCLK || message == WM_KEYDOWN ||
-         message == WM_SYSKEYDOWN;
+  const bool button = message >= WM_LBUTTONDOWN && message <= WM_MBUTTONDBLCLK;
+  return button || message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
 }
 
 /// Of what is taken from the queue: by the program's own loop, and by the system's in a menu or a question.
