@@ -48,7 +48,7 @@ void QtDesktop::ShowFrame(Frame& frame) {
 
 void QtDesktop::RunEventsUntil(double moment) {
   // At once: else the platform would wake the program once more for it, some milliseconds later.
-  Follow(true);
+  views_->Follow(true);
   const double left = moment - Clock();
   if (left <= 0) return;
   EventLoopRest rest(left);

@@ -48,9 +48,7 @@ class QtDesktop : public Desktop, private common::Screen {
 
  protected:
   // --- common::Screen
-  void Follow() override { Follow(false); }
-  /// What has changed is drawn at once, or when the platform finds time for it.
-  virtual void Follow(bool atOnce) { views_->Follow(atOnce); }
+  void Follow() override { views_->Follow(); }
 
  private:
   common::Waits waits_;

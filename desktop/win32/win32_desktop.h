@@ -46,10 +46,11 @@ class Win32Desktop : public Desktop, private common::Screen {
   void OpenPage(std::string_view address) override;
   void EndProcess() override;
 
- private:
+ protected:
   // --- common::Screen
   void Follow() override { views_->Follow(); }
 
+ private:
   FormView* MakeView(Form& form);
   void Retire(FormView* view);
   void Rescale(double ratio);

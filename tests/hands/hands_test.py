@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """One list of hands on the simulated desktop and, with real mouse and keys, in the real window: the same must come of it.
 
-    hands_test.py SIMULATED PROGRAM LIST
+    hands_test.py LIST PROGRAM SIMULATED...
 """
 
 import difflib
@@ -39,10 +39,9 @@ class Told:
 
     def until(self, text):
         """Lets the program's clock run until it tells this."""
-        if not self._find(text):
-            self.program.stdin.write(f"go {text}\n")
-            self.program.stdin.flush()
-            wait_until(f"'{text}'", lambda: self._find(text), patience=120)
+        self.program.stdin.write(f"go {text}\n")
+        self.program.stdin.flush()
+        wait_until(f"'{text}'", lambda: self._find(text), patience=120)
 
     def _find(self, text):
         for at in range(self.unread, len(self.lines)):
@@ -74,15 +73,16 @@ class Hands:
         self.desk.move(*self.game.at(x, y))
 
     def key(self, which):
+        wait_until("the keyboard", self.game.window.has_focus)
         self.desk.key(KEYS[which])
 
     def menu(self, which):
         wait_until("the keyboard", self.game.window.has_focus)
         first, *rest = MENU[which]
-        arrived = self.told.arrived
+        told = len(self.told.lines)
         self.desk.key("Alt_L", first)
         if not rest:
-            return wait_until("the form", lambda: self.told.arrived > arrived)
+            return wait_until("the form", lambda: len(self.told.lines) > told)
         opened = wait_until("the menu", lambda: self.game.other_window(menu=True))
         self.desk.key(rest[0])
         wait_until("the menu to close", lambda: not opened.is_shown())
@@ -127,9 +127,9 @@ def play(lines):
             return told.lines
 
 
-def main(simulated, program, path):
+def main(path, program, *simulated):
     os.environ["GAME"] = program
-    wanted = subprocess.run([simulated, path], check=True, capture_output=True, text=True).stdout.splitlines()
+    wanted = subprocess.run([*simulated, path], check=True, capture_output=True, text=True).stdout.splitlines()
     assert wanted[-1:] == ["ended"], "the list does not come to an end: " + "\n".join(wanted[-5:])
     with open(path) as lines:
         came = play([line for line in lines if line.strip()])

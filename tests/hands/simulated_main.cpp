@@ -1,6 +1,7 @@
 // Plays a list of hands on the simulated desktop, and tells what comes of it.   hands_simulated LIST
 #include <iostream>
 
+#include "tests/hands/told.h"
 #include "tests/hands/witness.h"
 #include "tests/storm/script.h"
 
@@ -36,16 +37,14 @@ class Player {
 
   void Tell(const std::string& line) {
     std::cout << line << '\n';
-    told_.push_back(line);
+    told_.Add(line);
     LookForNext();
   }
 
   void LookForNext() {
-    while (!until_.empty() && unread_ < told_.size()) {
-      if (!told_[unread_++].starts_with(until_)) continue;
-      until_.clear();
-      GiveNext();
-    }
+    if (until_.empty() || !told_.Reaches(until_)) return;
+    until_.clear();
+    GiveNext();
   }
 
   /// Has the next input arrive now: in the innermost wait, if there is one.
@@ -80,8 +79,7 @@ class Player {
   simulated::Play play_;
   hands::Witness witness_{*play_.frame, [this](const std::string& line) { Tell(line); }};
   std::size_t at_ = 0, heard_ = 0;
-  std::vector<std::string> told_;
-  std::size_t unread_ = 0;  ///< lines from here on have not been waited for
+  hands::Told told_;
   bool given_ = false;
   int idled_ = 0;
   std::string until_;
