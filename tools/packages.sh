@@ -3,12 +3,12 @@
 
 CMAKE=(cmake ninja-build)
 BUILD=(g++ "${CMAKE[@]}" qt6-base-dev libsdl2-dev)
-# The compiler for Windows, and what runs its programs.
-WINDOWS=(g++-mingw-w64-x86-64 wine64)
+# The compiler for Windows, what makes its installer, and what runs its programs.
+WINDOWS=(g++-mingw-w64-x86-64 nsis wine64)
 # A virtual display, and what plays on it.
 DISPLAY_TOOLS=(xvfb openbox python3-xlib python3-pil)
-TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon metacity kwin-x11 icewm weston qt6-wayland pulseaudio pulseaudio-utils faketime
-       python3-numpy python3-scipy librsvg2-bin
+TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon metacity kwin-x11 icewm weston qt6-wayland
+       pulseaudio pulseaudio-utils faketime python3-numpy python3-scipy librsvg2-bin
        file dpkg-dev lintian desktop-file-utils appstream man-db debootstrap)
 
 say() { printf '%s: %s\n' "${0##*/}" "$*"; }

@@ -50,7 +50,7 @@ class Windows:
         desk.start([wine.SERVER, "--foreground", "--persistent"], **wine.variables(self.folder))
         desk.at_end(lambda: wine.end(self.folder))
 
-    def _run(self, *words):
+    def run(self, *words):
         """Runs one of Wine's own programs, and returns what it says."""
         environment = {"PATH": os.environ["PATH"], "DISPLAY": self.desk.name, "HOME": self.desk.home}
         # Not through a pipe: what Wine starts on the side would hold it open.
@@ -61,25 +61,25 @@ class Windows:
             return said.read()
 
     def start(self, scale, pipes=None, **variables):
-        self._run("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD", "/d",
-                  str(round(96 * scale)), "/f")
+        self.run("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD", "/d",
+                 str(round(96 * scale)), "/f")
         # A windowed program says nothing; what is said is Wine's own.
         return self.desk.start([wine.LOADER, program()], quiet=True, pipes=pipes, **wine.variables(self.folder),
                                **variables)
 
     def settings(self):
-        for line in self._run("reg", "query", self.KEY, "/v", SECTION).splitlines():
+        for line in self.run("reg", "query", self.KEY, "/v", SECTION).splitlines():
             if "REG_MULTI_SZ" in line:
                 return dict(value.split("=", 1) for value in line.split(None, 2)[2].split(r"\0") if value)
         return {}
 
     def write_settings(self, values):
         lines = r"\0".join(f"{key}={value}" for key, value in values.items())
-        self._run("reg", "add", self.KEY, "/v", SECTION, "/t", "REG_MULTI_SZ", "/d", lines, "/f")
+        self.run("reg", "add", self.KEY, "/v", SECTION, "/t", "REG_MULTI_SZ", "/d", lines, "/f")
 
     def end_session(self):
         """What the system tells all programs when its user logs off."""
-        self._run("wineboot", "--end-session")
+        self.run("wineboot", "--end-session")
 
 
 @functools.lru_cache(1)
