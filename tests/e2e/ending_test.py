@@ -10,7 +10,6 @@ from unittest import mock
 from desk import Desk, wait_until
 from game import (BUTTONS, CAPTIONS, CUP, CUP_FRAMES, FRESH, Game, differs_in, pile_place, settings, shows,
                   write_settings)
-from seen import opens_with
 
 KILLS = 16
 ON_WINDOWS = os.environ["GAME"].endswith(".exe")
@@ -107,16 +106,9 @@ class Ending(unittest.TestCase):
                 game.ended()
                 self.assert_kept([12, 12, 10])
 
-    def test_earlier_money_is_offered_and_lasts(self):
+    def test_exit_on_the_opening_form_asks_nothing_and_leaves_the_money(self):
         with Game(self.desk) as game:
             game.click(BUTTONS["Exit"])
-            self.assertEqual(game.ended(), 0, "without a question")
-        with Game(self.desk) as game:
-            self.start(game, "y")
-            # A pile shows 20 of its 30.
-            wait_until("the earlier money", lambda: opens_with(game.canvas(), [7, 30, 1]))
-            game.choose("g", "e")
-            game.answer("y")
             self.assertEqual(game.ended(), 0)
         self.assertEqual(settings(self.desk), OLD)
 

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The game played with keys: opening form, menus, questions, and the table's one button."""
+"""The game played with keys: opening form, menu, question, and the table's one button."""
 
 import os
 import unittest
@@ -33,22 +33,11 @@ class Keyboard(unittest.TestCase):
         self.desk.key("space")
         wait_until("the exchange", lambda: opens_with(self.game.canvas(), [12, 13, 15]))
 
-    def test_menus_and_questions(self):
+    def test_the_menu_bar_has_its_own_key(self):
         self.game.play()
-        self.game.bet(0, 12, 3)
-        self.desk.move(1, 1)
-        staked = self.game.canvas()
-        for entry in ("n", "e"):
-            self.game.choose("g", entry)
-            self.game.answer("n")
-            wait_until("the table as it was", lambda: self.game.canvas().tobytes() == staked.tobytes())
-        self.game.choose("g", "n")
-        self.game.answer("y")
-        wait_until("a new game", lambda: opens_with(self.game.canvas(), FRESH))
-        # The menu bar by its own key. On Windows that only leads there.
         self.desk.key("F10")
         if os.environ["GAME"].endswith(".exe"):
-            self.desk.key("Down")
+            self.desk.key("Down")  # on Windows that key only leads there
         opened = wait_until("the menu", lambda: self.game.other_window(menu=True))
         self.desk.key("e")
         wait_until("the menu to close", lambda: not opened.is_shown())

@@ -4,7 +4,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QToolTip>
@@ -111,22 +110,14 @@ TEST_F(Forms, About) {
 }
 
 TEST_F(Forms, TheOneShownOrPressedLastLiesOnTop) {
-  // About is there before the table is.
-  Menu("About");
-  Click(frame.Splash, {390, 395});
   StartGame();
-  Menu("About");
-  const auto isOnTop = [&](const desktop::Form& form) {
-    const QWidget* there = desktop.window().area().childAt(170, 130);
-    return there == ViewOf(form) || ViewOf(form)->isAncestorOf(there);
-  };
-  const QPoint bare(620, 10), getChange(500, 385);
-  for (const QPoint press : {bare, getChange}) {
-    EXPECT_TRUE(isOnTop(frame.About)) << press.x();
-    Press(table, press);
-    EXPECT_TRUE(isOnTop(table)) << press.x();
-    Release(table, bare);  // no click comes of it
+  const auto onTop = [&] { return desktop.window().area().childAt(170, 130); };
+  for (int i = 0; i < 2; ++i) {
     Menu("About");
+    EXPECT_TRUE(ViewOf(frame.About)->isAncestorOf(onTop()) || onTop() == ViewOf(frame.About));
+    Press(table, {620, 10});
+    EXPECT_EQ(onTop(), ViewOf(table));
+    Release(table, {620, 10});
   }
 }
 
@@ -195,19 +186,12 @@ TEST_F(Forms, Support) {
   ExpectLook(frame.Support, sheet, {{"Return", {266, 312, 100, 26}}});
 }
 
-TEST_F(Forms, InstructionsScrollAndCannotBeTypedInto) {
+TEST_F(Forms, InstructionsCannotBeTypedInto) {
   Menu("Instructions");
   Sheet sheet({632, 406}, kGround);
   for (const int left : {0, 600}) sheet.Picture("ThistleLantern32", {left, 374});
   ExpectLook(frame.Help, sheet, {{"Instructions", {0, 0, 633, 374}}, {"Return", {266, 376, 100, 26}}});
 
-  const QScrollBar& bar = *Text().verticalScrollBar();
-  EXPECT_EQ(bar.value(), 0);
-  Key(Qt::Key_PageDown);
-  EXPECT_GT(bar.value(), 200);
-  Key(Qt::Key_End);
-  EXPECT_EQ(bar.value(), bar.maximum());
-  EXPECT_EQ(Focus(), "Return");
   const QString text = Text().toPlainText();
   Text().setFocus();
   QTest::keyClicks(&Text(), "typed");

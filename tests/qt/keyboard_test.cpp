@@ -25,26 +25,6 @@ TEST_F(Keyboard, EnterAndSpacePressTheButtonThatHasTheFocus) {
   }
 }
 
-TEST_F(Keyboard, EnterAndEscPressTheClosingButtonFromAnywhereOnTheFormInFront) {
-  for (const char* entry : {"Options", "Support", "About"})
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape})
-      for (const int tabs : {0, 1, 2}) {
-        Menu(entry);
-        const desktop::Form& form = *frame.Children().back();
-        ASSERT_NE(&form, &frame.Splash);
-        for (int i = 0; i < tabs; ++i) Key(Qt::Key_Tab);
-        EXPECT_TRUE(ViewOf(form)->isAncestorOf(QApplication::focusWidget()));
-        Key(key);
-        ASSERT_EQ(frame.Children().back(), &frame.Splash) << entry << " by " << key << " after " << tabs << " tabs";
-      }
-  // A form that a click has buried hears nothing.
-  StartGame();
-  Menu("About");
-  Click(table, {5, 5});
-  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) Key(key);
-  EXPECT_TRUE(frame.About.Loaded);
-}
-
 TEST_F(Keyboard, TheTableTellsTotalsStakesAndResult) {
   StartGame();
   std::string told;

@@ -111,21 +111,10 @@ TEST_F(Table, LooksAfterEveryChangeAsIfPaintedAnew) {
   EXPECT_GE(desktop.rests, 3) << "an exchange";
 }
 
-TEST_F(Table, PaintsNoMoreThanHasChangedAndDecodesNothing) {
+TEST_F(Table, PaintsNoMoreThanTheDiceInAThrowAndDecodesNothing) {
   PaintWatch watch(*ViewOf(table));
-  auto& coin = table.Money[49];
-  Press(table, {257, 355});
+  Carry(table, {257, 355}, {60, 200});
   watch.Take();
-  for (const QPoint step : {QPoint(300, 340), QPoint(310, 345), QPoint(310, 345), QPoint(60, 200)}) {
-    const QRect old = Place(coin);
-    Move(table, step);
-    const QRegion painted = watch.Take();
-    EXPECT_TRUE(painted.subtracted(Near(old) + Near(Place(coin))).isEmpty()) << step.x();
-    EXPECT_EQ(painted.isEmpty(), old == Place(coin)) << step.x();
-  }
-  Release(table, {60, 200});
-  watch.Take();
-
   int ticks = 0;
   const int ofPaint = Ratio() == 1 ? 0 : 1;  // a scaled paint makes an image for itself
   qint64 last = NextImage();

@@ -68,7 +68,6 @@ TEST(Settings, FramePlace) {
       {{}, {0, 0, 9000, 6000}, -300, -388},    // downwards, also below zero
       {{}, {-28800, -300, 28800, 16200}, -19200, 4412},
       {{{kAt + "MainLeft", "90000"}, {kAt + "MainTop", "-99"}}, {0, 0, 19200, 12000}, 90000, -99},
-      {{{kAt + "MainLeft", ""}, {kAt + "MainTop", "+-99"}}, {0, 0, 19200, 12000}, 4800, 2612},
       {{{kAt + "MainLeft", "nan"}, {kAt + "MainTop", "1e60"}}, {0, 0, 19200, 12000}, 4800, 2612},
   };
   for (auto [store, area, left, top] : rows) {
