@@ -110,14 +110,22 @@ TEST_F(Forms, About) {
 }
 
 TEST_F(Forms, TheOneShownOrPressedLastLiesOnTop) {
+  // About is there before the table is.
+  Menu("About");
+  Click(frame.Splash, {390, 395});
   StartGame();
-  const auto onTop = [&] { return desktop.window().area().childAt(170, 130); };
-  for (int i = 0; i < 2; ++i) {
+  Menu("About");
+  const auto isOnTop = [&](const desktop::Form& form) {
+    const QWidget* there = desktop.window().area().childAt(170, 130);
+    return there == ViewOf(form) || ViewOf(form)->isAncestorOf(there);
+  };
+  const QPoint bare(620, 10), getChange(500, 385);
+  for (const QPoint press : {bare, getChange}) {
+    EXPECT_TRUE(isOnTop(frame.About)) << press.x();
+    Press(table, press);
+    EXPECT_TRUE(isOnTop(table)) << press.x();
+    Release(table, bare);  // no click comes of it
     Menu("About");
-    EXPECT_TRUE(ViewOf(frame.About)->isAncestorOf(onTop()) || onTop() == ViewOf(frame.About));
-    Press(table, {620, 10});
-    EXPECT_EQ(onTop(), ViewOf(table));
-    Release(table, {620, 10});
   }
 }
 

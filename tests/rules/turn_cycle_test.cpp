@@ -13,6 +13,8 @@ using simulated::Lines;
 using simulated::OnSquare;
 using Counts = std::array<std::int64_t, 3>;
 
+constexpr const char* kNoMoneyLeft = "You Have No Money Left\r\nWould You Like Another £200 ?";
+
 /// Stakes all three coins of a table that has nothing else, and loses them.
 bool LoseAll(simulated::Play& play) {
   play.DealThrow(1, 2, 3);
@@ -54,18 +56,24 @@ TEST(Turn, RightButtonOrReleaseBesideTheCupThrowNothing) {
   EXPECT_EQ(play.desktop.drawn, 3);
 }
 
-TEST(Money, GoneIsOfferedAgain) {
+TEST(Money, GoneIsOfferedAgainWithoutLimit) {
   AtTable play({0, 0, 3});
-  play.desktop.answers = {true};
-  play.desktop.whileAsked = [&] {
-    EXPECT_EQ(play.desktop.sounds.back(), (desktop::simulated::Happening{play.desktop.Clock(), "PEOPLELAUGH"}));
-    for (const auto& caption : play.table().Label1) EXPECT_EQ(caption.Caption, "");
-    EXPECT_EQ(play.table().Label3[3].Caption, "£0");
-  };
-  ASSERT_TRUE(LoseAll(play));
-  EXPECT_EQ(play.desktop.questions.back().what, "You Have No Money Left\r\nWould You Like Another £200 ?");
-  EXPECT_EQ(play.money().MoneyCount, (Counts{13, 12, 10}));
-  EXPECT_TRUE(play.table().Money[12].Enabled && play.table().Command1.Visible);
+  for (std::size_t refills = 1; refills <= 3; ++refills) {
+    play.desktop.answers = {true};
+    play.desktop.whileAsked = [&] {
+      EXPECT_EQ(play.desktop.sounds.back(), (desktop::simulated::Happening{play.desktop.Clock(), "PEOPLELAUGH"}));
+      for (const auto& caption : play.table().Label1) EXPECT_EQ(caption.Caption, "");
+      EXPECT_EQ(play.table().Label3[3].Caption, "£0");
+    };
+    ASSERT_TRUE(LoseAll(play));
+    ASSERT_EQ(play.desktop.questions.size(), 1 + refills);
+    EXPECT_EQ(play.desktop.questions.back().what, kNoMoneyLeft);
+    EXPECT_EQ(play.desktop.titles.back(), "Thistle and Lantern");
+    EXPECT_EQ(play.money().MoneyCount, (Counts{13, 12, 10}));
+    EXPECT_TRUE(play.table().Money[12].Enabled && play.table().Command1.Visible);
+    // Down to three coins again, as if the rest were lost.
+    play.money().MoneyCount = {0, 0, 3};
+  }
 }
 
 TEST(Money, GoneAndRefusedEndsTheRunWithNothingLeft) {
