@@ -18,8 +18,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int show) {
   kind.hbrBackground = CreateSolidBrush(RGB(0xFF, 0xFF, 0x80));
   kind.lpszClassName = L"BareWindow";
   RegisterClassW(&kind);
-  const HWND window = CreateWindowExW(0, kind.lpszClassName, L"Thistle and Lantern", WS_OVERLAPPEDWINDOW, 0, 0, 640, 452,
-                                      nullptr, nullptr, instance, nullptr);
+  const HWND window = CreateWindowExW(0, kind.lpszClassName, L"Thistle and Lantern", WS_OVERLAPPEDWINDOW, 0, 0, 640,
+                                      452, nullptr, nullptr, instance, nullptr);
   ShowWindow(window, show);
   MSG message;
   while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
