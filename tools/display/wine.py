@@ -55,8 +55,17 @@ def template():
     return made
 
 
+def hold_server_folder():
+    """Keeps the folder in which all of Wine's servers have theirs. The last one to end would take it away while another
+    one starts, which then fails."""
+    folder = pathlib.Path(f"/tmp/.wine-{os.getuid()}")
+    folder.mkdir(mode=0o700, exist_ok=True)
+    (folder / "held").mkdir(mode=0o700, exist_ok=True)
+
+
 def copy(folder):
     """Makes a fresh folder for Wine: its own registry and its own files beside the template's system."""
+    hold_server_folder()
     made = template()
     folder.mkdir(parents=True)
     for pattern in REGISTRY:
