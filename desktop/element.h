@@ -56,6 +56,7 @@ struct Element {
 
   const Document* Text = nullptr;  ///< what a text view shows
   std::string AccessibleName;      ///< what a screen reader says where the caption does not tell
+  bool SaidByStop = false;         ///< a label whose text a screen reader finds in one of the form's stops
 
   bool operator==(const Element&) const = default;
 

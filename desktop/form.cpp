@@ -19,6 +19,8 @@ void Form::Clear() {
   graphics_.clear();
   controls_.clear();
   Focus = nullptr;
+  AtStop = kNoStop;
+  ShowsStop = false;
 }
 
 void Form::BringToFront(const Element& element) {

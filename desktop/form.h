@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "desktop/element.h"
+#include "desktop/stop.h"
 
 namespace desktop {
 
@@ -37,6 +38,8 @@ class Form {
   Colour BackColor;
   PointerShape MousePointer = PointerShape::Default;
   Element* Focus = nullptr;  ///< the control that has the keyboard while the form is in front; written by the desktop
+  int AtStop = kNoStop;      ///< where the keyboard stands, of the form's stops; written by the desktop
+  bool ShowsStop = false;    ///< keys are in use, so a ring shows where; written by the desktop
   /// Pictures that handlers give to elements while the form is on show: to be ready by then.
   std::vector<const Picture*> PicturesToCome;
 
@@ -65,8 +68,14 @@ class Form {
   virtual void MouseLost(Element&) {}
   virtual void Click(Element&) {}
 
-  /// What a screen reader is told of the pictures on the form, in sentences. May be empty.
-  virtual std::string Description() const { return {}; }
+  /// All that keys and screen readers find on the form beside its texts, in the order of Tab: always as many. None: its
+  /// controls are all there is.
+  virtual std::vector<Stop> Stops() const { return {}; }
+  /// What keys do wherever on the form the keyboard is.
+  virtual std::vector<Deed> DeedsAnywhere() const { return {}; }
+  /// What a screen reader is told of the pictures on the form: always as many sentences, of which some may be empty.
+  /// One that changes is told when it does.
+  virtual std::vector<std::string> Sentences() const { return {}; }
 
  protected:
   /// Puts an element on the form, in front of those before it.

@@ -56,8 +56,11 @@ class frmGame : public desktop::Form {
   void MouseUp(desktop::Element& element, int Button, float X, float Y) override;
   void MouseLost(desktop::Element& element) override;
   void Click(desktop::Element& element) override;
-  // --- description.cpp
-  std::string Description() const override;
+  // --- table/stops.cpp
+  std::vector<desktop::Stop> Stops() const override;
+  std::vector<desktop::Deed> DeedsAnywhere() const override;
+  // --- sentences.cpp
+  std::vector<std::string> Sentences() const override;
 
   // --- State. Handlers alone write it.
 
@@ -78,6 +81,10 @@ class frmGame : public desktop::Form {
   std::array<std::array<int, kPiecesOnSquare + 1>, kSquares> BetPieces{};
 
   bool DropAllowed = false;  ///< the last FindSquare found a square that has a free place
+
+  std::optional<int> Refused;           ///< the full square that the last piece to be let go was sent home from
+  std::optional<int> DenominationLaid;  ///< of the last piece that came to lie on the mat
+  bool Throwing = false;                ///< the dice are in the cup, or roll
 
   /// Pieces of each denomination remembered from the last run, and their value in pounds.
   std::array<std::int64_t, kDenominations + 1> Stash{};
@@ -162,6 +169,19 @@ class frmGame : public desktop::Form {
   void PlaceOnSquare(int piece, int square);
   bool IsHome(int piece) const;
   void SendHome(int piece);
+
+  // --- table/stops.cpp
+  desktop::Stop PileStop(int denomination) const;
+  desktop::Stop SquareStop(int square) const;
+  desktop::Stop CupStop() const;
+  bool CanBeTaken(const desktop::Element& element) const;
+  std::optional<int> FrontPiece(int denomination) const;
+  desktop::Hand HandTo(int piece, int square) const;
+  desktop::Hand HandHome(int piece) const;
+
+  // --- sentences.cpp
+  std::string DiceInWords() const;
+  std::string SquareInWords(int square) const;
 
   // --- table/drag.cpp
   void Money_MouseDown(int Index, int Button, float X, float Y);

@@ -33,10 +33,12 @@ void frmGame::ShowDie(int die) {
 }
 
 void frmGame::ThrowDice() {
+  Throwing = true;
   RandomDice();
   const int LastTick = DrawSpins();
   ShakeCup();
   RollDice(LastTick);
+  Throwing = false;
 }
 
 /// Takes the dice off the table and draws how far each will turn. Returns the tick on which the last

@@ -13,6 +13,7 @@ using desktop::PointerShape;
 
 void frmGame::Money_MouseDown(int Index, int Button, float X, float Y) {
   if (Button != kLeftButton) return;
+  Refused.reset();
   BringToFront(Money[Index]);
   GrabX = X;
   GrabY = Y;
@@ -33,10 +34,12 @@ void frmGame::Money_MouseUp(int Index, int Button, float X, float Y) {
   if (Button != kLeftButton) return;
   const auto square = SquareUnder(Index, X, Y);
   FollowPointer(Index, X, Y);
-  if (square && DropAllowed)
+  if (square && DropAllowed) {
     DropOnSquare(Index, *square);
-  else
+  } else {
+    Refused = square;
     ReturnToPile(Index);
+  }
   StackMoney();
   MousePointer = PointerShape::Default;
 }
@@ -86,6 +89,7 @@ void frmGame::ReturnToPile(int Index) {
 
 void frmGame::DropOnSquare(int Index, int square) {
   PlaceOnSquare(Index, square);
+  DenominationLaid = Denomination(Index);
   BetValue[square] += PieceValue[Denomination(Index)];
   auto& pieces = BetPieces[square];
   ++pieces[0];

@@ -56,14 +56,20 @@ void frmGame::LayOutTable() {
   for (int s = 0; s < kSquares; ++s) {
     Label1[s] = LaidLabel("Label1", s, places::kLabel1.At(s), Align::Centre);
     Label1[s].BackColor = colours::kMat;
+    Label1[s].SaidByStop = true;
     Add(Label1[s]);
   }
   for (const int i : {1, 2, 3, 4, 0}) {
     Label2[i] = LaidLabel("Label2", i, places::kLabel2[i], i == 0 ? Align::Centre : Align::Left, texts::kLabel2[i]);
     Label2[i].Font.underline = i == 0;
+    Label2[i].SaidByStop = true;
     Add(Label2[i]);
   }
-  for (int i = 0; i <= kDenominations; ++i) Add(Label3[i] = LaidLabel("Label3", i, places::kLabel3[i], Align::Right));
+  for (int i = 0; i <= kDenominations; ++i) {
+    Label3[i] = LaidLabel("Label3", i, places::kLabel3[i], Align::Right);
+    Label3[i].SaidByStop = true;
+    Add(Label3[i]);
+  }
 
   for (int n = 0; n < kPieces; ++n) {
     const auto& pile = places::kMoney[Denomination(n)];

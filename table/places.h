@@ -35,6 +35,9 @@ inline constexpr Row kMoney[] = {
 inline constexpr Place kInstruction[] = {{6300, 4200, 3120, 510}, {6300, 4710, 3120, 570}};
 inline constexpr Place kCommand1{7200, 5640, 1335, 375};
 
+/// Where keys lay the pieces of one square: five steps down its diagonal, so that each shows.
+constexpr Place Bet(int square, int step) { return {150 + 1560 * square + 135 * step, 2430 + 195 * step, 885, 465}; }
+
 /// Slots of one square for what the bank pays: three rows of five.
 constexpr Place Payout(int slot) {
   const int square = slot / 15;

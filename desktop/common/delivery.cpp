@@ -1,10 +1,35 @@
 #include "desktop/common/delivery.h"
 
+#include "desktop/common/walk.h"
+
 namespace desktop::common {
 
 namespace {
 
 float Inside(const Form& form, float length) { return length - static_cast<float>(form.Border); }
+
+/// The keyboard goes to the stop, and to the control that it is, if it is one.
+void StandAt(Form& form, int stop) {
+  form.AtStop = stop;
+  form.Focus = ControlAt(form, form.Stops(), stop);
+}
+
+void Focus(Form& form, Element& control) {
+  form.Focus = &control;
+  form.AtStop = StopOf(form.Stops(), control);
+}
+
+/// Counts a question for as long as it is open, however it ends.
+class Asking {
+ public:
+  explicit Asking(int& questions) : questions_(questions) { ++questions_; }
+  ~Asking() { --questions_; }
+  Asking(const Asking&) = delete;
+  Asking& operator=(const Asking&) = delete;
+
+ private:
+  int& questions_;
+};
 
 }  // namespace
 
@@ -18,7 +43,10 @@ void Delivery::Deliver(const std::function<void()>& handler) {
 }
 
 void Delivery::Press(Form& form, int button, float x, float y) {
-  Deliver([&] { pointer_.Press(form, button, Inside(form, x), Inside(form, y)); });
+  Deliver([&] {
+    form.ShowsStop = false;
+    pointer_.Press(form, button, Inside(form, x), Inside(form, y));
+  });
 }
 
 void Delivery::Move(int held, float x, float y) {
@@ -36,7 +64,8 @@ void Delivery::Release(int button, float x, float y) {
 void Delivery::PressControl(Form& form, Element& control) {
   Deliver([&] {
     frame_.Show(form);
-    if (TakesFocusByMouse(control)) form.Focus = &control;
+    form.ShowsStop = false;
+    if (TakesFocusByMouse(control)) Focus(form, control);
   });
 }
 
@@ -47,16 +76,28 @@ void Delivery::ClickControl(Form& form, Element& control) {
 }
 
 Scroll Delivery::PressKey(Key key, bool held) {
-  if (frame_.Children().empty()) return Scroll::None;
+  if (frame_.Children().empty() || asking_ > 0) return Scroll::None;
   Form& form = *frame_.Children().back();
   const KeyMeaning meaning = MeaningOf(form, key, held);
   if (meaning.scroll != Scroll::None) return meaning.scroll;
   Deliver([&] {
+    form.ShowsStop = true;
+    if (meaning.stop != kNoStop) StandAt(form, meaning.stop);
     if (meaning.focus) form.Focus = meaning.focus;
     if (meaning.click && meaning.click->Kind == Kind::OptionButton) form.Focus = meaning.click;
     if (meaning.click) form.Click(*meaning.click);
   });
+  if (meaning.hand) MoveHand(form, *meaning.hand);
   return Scroll::None;
+}
+
+void Delivery::MoveHand(Form& form, const Hand& hand) {
+  if (frame_.Children().empty() || frame_.Children().back() != &form || asking_ > 0 || HeldOn()) return;
+  Deliver([&] { pointer_.Press(form, kLeftButton, hand.FromX, hand.FromY); });
+  if (!HeldOn()) return;
+  Deliver([&] { pointer_.Move(kLeftButton, hand.ToX, hand.ToY); });
+  if (!HeldOn()) return;
+  Deliver([&] { pointer_.Release(kLeftButton, hand.ToX, hand.ToY); });
 }
 
 void Delivery::OpenMenu() {
@@ -88,13 +129,15 @@ void Delivery::Close() {
 }
 
 void Delivery::SetFocus(Form& form, Element& control) {
-  form.Focus = &control;
+  Focus(form, control);
   screen_.Follow();
 }
 
-void Delivery::PrepareQuestion() {
+bool Delivery::Ask(const std::function<bool()>& question) {
+  const Asking asking(asking_);
   pointer_.Lose();
   screen_.Follow();
+  return question();
 }
 
 }  // namespace desktop::common

@@ -41,6 +41,10 @@ class Delivery {
   void ClickControl(Form& form, Element& control);
   /// A key on the form in front. Returns how its text scrolls.
   Scroll PressKey(Key key, bool held);
+  /// A hand moves on the form, by a key or for a screen reader: press, move and release arrive one after the other, as
+  /// the player's own would. Nothing happens where the player could not do so now: not on the form in front, the mouse
+  /// is held, or a question is open.
+  void MoveHand(Form& form, const Hand& hand);
 
   // --- The window
 
@@ -57,8 +61,8 @@ class Delivery {
 
   void ReleaseMouse() { pointer_.Lose(); }
   void SetFocus(Form& form, Element& control);
-  /// Before a question is shown, which takes the mouse.
-  void PrepareQuestion();
+  /// Shows a question, which takes the mouse and has all keys for itself until it is answered.
+  bool Ask(const std::function<bool()>& question);
 
   /// Runs `handler` as one event.
   void Deliver(const std::function<void()>& handler);
@@ -68,6 +72,7 @@ class Delivery {
   Screen& screen_;
   Waits& waits_;
   Pointer pointer_;
+  int asking_ = 0;  ///< questions that are open
 };
 
 }  // namespace desktop::common

@@ -1,8 +1,18 @@
 #include "desktop/common/drawing.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "desktop/common/walk.h"
 
 namespace desktop::common {
+
+std::vector<const Picture*> PicturesOf(const Form& form) {
+  std::vector<const Picture*> pictures = form.PicturesToCome;
+  for (const Element* element : form.Graphics())
+    if (element->Picture && !element->Stretch) pictures.push_back(element->Picture);
+  return pictures;
+}
 
 Drawing::Drawing(const Form& form, const TextMeasure& measure) : form_(form), measure_(measure) { Follow(); }
 
@@ -10,6 +20,7 @@ std::vector<Rect> Drawing::Follow() {
   std::vector<Rect> damage;
   FollowRecords(damage);
   FollowOrder(damage);
+  FollowRing(damage);
   return damage;
 }
 
@@ -39,6 +50,13 @@ void Drawing::FollowOrder(std::vector<Rect>& damage) {
           damage.push_back((*back)->painted.Shared((*front)->painted));
   order_ = now;
   for (std::size_t place = 0; place < now.size(); ++place) drawn_.at(now[place]).order = place;
+}
+
+void Drawing::FollowRing(std::vector<Rect>& damage) {
+  const std::optional<Rect> before = std::exchange(ring_, RingOf(form_));
+  if (before == ring_) return;
+  for (const auto& ring : {before, ring_})
+    if (ring) damage.push_back(*ring);
 }
 
 std::vector<const Element*> Drawing::Meeting(std::span<const Rect> areas) const {

@@ -1,6 +1,7 @@
 // What a form showed when it was drawn last, and so what must be drawn again.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -10,7 +11,11 @@
 
 namespace desktop::common {
 
-/// Knows the images and labels of one form. Places are the layout's pixels from inside the form's border.
+/// The pictures of own size that are on a form or will come onto it.
+std::vector<const Picture*> PicturesOf(const Form& form);
+
+/// Knows the images and labels of one form, and the ring around where the keyboard is. Places are the layout's pixels
+/// from inside the form's border.
 class Drawing {
  public:
   /// All of the form counts as drawn. Both must outlive the drawing.
@@ -19,6 +24,9 @@ class Drawing {
   /// Takes over what the records say now. Returns where they differ from what was drawn last: the old and the
   /// new place of each that has changed, and what two that have changed their order have in common.
   std::vector<Rect> Follow();
+
+  /// The outer edge of the ring, if it shows, in the layout's pixels from inside the form's border.
+  const std::optional<Rect>& Ring() const { return ring_; }
 
   /// The visible images and labels that meet any of `areas`, back to front.
   std::vector<const Element*> Meeting(std::span<const Rect> areas) const;
@@ -33,11 +41,13 @@ class Drawing {
 
   void FollowRecords(std::vector<Rect>& damage);
   void FollowOrder(std::vector<Rect>& damage);
+  void FollowRing(std::vector<Rect>& damage);
 
   const Form& form_;
   const TextMeasure& measure_;
   std::unordered_map<const Element*, Drawn> drawn_;
   std::vector<Element*> order_;
+  std::optional<Rect> ring_;
 };
 
 }  // namespace desktop::common

@@ -56,6 +56,22 @@ Edges BorderEdges(Size form, int border, const Scale& scale) {
   return edges;
 }
 
+Edges RingEdges(const Rect& ring, const Scale& scale) {
+  constexpr Tint kLight{{0xFFFFFF}};
+  constexpr Tint kDark{{0x000000}};
+  Edges edges;
+  for (int i = 0; i < kRingWidth; ++i) {
+    const Rect outer = scale.Device(ring.Grown(-i));
+    const Rect inner = scale.Device(ring.Grown(-i - 1));
+    const Tint tint = i == 0 || i == kRingWidth - 1 ? kLight : kDark;
+    edges.push_back({Rect::Between(outer.left, outer.top, outer.Right(), inner.top), tint});
+    edges.push_back({Rect::Between(outer.left, inner.Bottom(), outer.Right(), outer.Bottom()), tint});
+    edges.push_back({Rect::Between(outer.left, inner.top, inner.left, inner.Bottom()), tint});
+    edges.push_back({Rect::Between(inner.Right(), inner.top, outer.Right(), inner.Bottom()), tint});
+  }
+  return edges;
+}
+
 Edges ButtonEdges(const Rect& button, const ButtonLook& look, const ButtonState& state, int line) {
   Edges edges;
   if (state.pressed) edges.push_back({button, look.Pressed});

@@ -24,6 +24,13 @@ Edges PanelEdges(const Rect& panel, Colour ground, int line);
 /// above and from the left.
 Edges BorderEdges(Size form, int border, const Scale& scale);
 
+/// The layout's pixels that a ring takes on each side around what it tells of.
+inline constexpr int kRingWidth = 4;
+
+/// The ring that shows where the keyboard is: dark between two light lines, to be seen on any ground. `ring` is its
+/// outer edge, in the layout's pixels.
+Edges RingEdges(const Rect& ring, const Scale& scale);
+
 struct ButtonState {
   bool pressed = false;
   bool focused = false;

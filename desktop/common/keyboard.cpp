@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "desktop/common/walk.h"
+
 namespace desktop::common {
 
 namespace {
@@ -17,16 +19,16 @@ Controls Those(const Form& form, const Test& test) {
 }
 
 /// Links and dead controls are passed over.
-bool IsStop(const Element* control) { return control->TakesFocus() && control->Reacts(); }
+bool TakesTab(const Element* control) { return control->TakesFocus() && control->Reacts(); }
 
 /// The one after the control that has the keyboard; from the last on to the first.
-Element* NextStop(const Form& form, bool forward) {
-  Controls stops = Those(form, IsStop);
-  if (stops.empty()) return nullptr;
-  if (!forward) std::ranges::reverse(stops);
-  const auto at = std::ranges::find(stops, form.Focus);
-  const bool last = at == stops.end() || at + 1 == stops.end();
-  return last ? stops.front() : *(at + 1);
+Element* NextControl(const Form& form, bool forward) {
+  Controls controls = Those(form, TakesTab);
+  if (controls.empty()) return nullptr;
+  if (!forward) std::ranges::reverse(controls);
+  const auto at = std::ranges::find(controls, form.Focus);
+  const bool last = at == controls.end() || at + 1 == controls.end();
+  return last ? controls.front() : *(at + 1);
 }
 
 /// The option beside the one that has the keyboard, if there is one on that side.
@@ -63,16 +65,15 @@ Scroll ScrollOf(Key key) {
   }
 }
 
-}  // namespace
-
-KeyMeaning MeaningOf(const Form& form, Key key, bool held) {
+/// On a form without stops.
+KeyMeaning MeaningAmongControls(const Form& form, Key key, bool held) {
   Element* const focus = FocusOf(form);
   const bool onOption = focus && focus->Kind == Kind::OptionButton;
   const bool onButton = focus && focus->Kind == Kind::Button;
   switch (key) {
     case Key::Tab:
     case Key::BackTab:
-      return {.focus = NextStop(form, key == Key::Tab)};
+      return {.focus = NextControl(form, key == Key::Tab)};
     case Key::Enter:
       return {.click = held ? nullptr : onButton ? focus : WithRole(form, &Element::Default)};
     case Key::Escape:
@@ -92,6 +93,22 @@ KeyMeaning MeaningOf(const Form& form, Key key, bool held) {
   }
   // The keys that scroll reach the form's text wherever the keyboard is.
   return {.scroll = ScrollOf(key)};
+}
+
+KeyMeaning MeaningAmongStops(const Form& form, const std::vector<Stop>& stops, Key key, bool held) {
+  if (key == Key::Tab || key == Key::BackTab) return {.stop = NextStop(stops, form.AtStop, key == Key::Tab)};
+  const int beside = StopBeside(stops, form.AtStop, key);
+  if (beside != kNoStop || held) return {.stop = beside};
+  Element* const control = ControlAt(form, stops, form.AtStop);
+  if (control && (key == Key::Enter || key == Key::Space)) return {.click = control->Reacts() ? control : nullptr};
+  return {.hand = HandOf(form, stops, form.AtStop, key)};
+}
+
+}  // namespace
+
+KeyMeaning MeaningOf(const Form& form, Key key, bool held) {
+  const std::vector<Stop> stops = form.Stops();
+  return stops.empty() ? MeaningAmongControls(form, key, held) : MeaningAmongStops(form, stops, key, held);
 }
 
 Element* FocusOf(const Form& form) { return form.Focus && form.Focus->Reacts() ? form.Focus : nullptr; }

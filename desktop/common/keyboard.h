@@ -1,18 +1,20 @@
 // What a key means on the form in front: which control it presses, where the keyboard goes, how a text scrolls.
 #pragma once
 
+#include <optional>
+
 #include "desktop/form.h"
 
 namespace desktop::common {
 
-enum class Key { Tab, BackTab, Enter, Space, Escape, Up, Down, Left, Right, PageUp, PageDown, Home, End };
-
 enum class Scroll { None, LineUp, LineDown, PageUp, PageDown, ToStart, ToEnd };
 
-/// At most one of the three.
+/// At most one of them.
 struct KeyMeaning {
-  Element* focus = nullptr;  ///< the control that the keyboard goes to
-  Element* click = nullptr;  ///< the control that is pressed
+  Element* focus = nullptr;                 ///< the control that the keyboard goes to
+  Element* click = nullptr;                 ///< the control that is pressed
+  int stop = kNoStop;                       ///< the stop that the keyboard goes to
+  std::optional<Hand> hand = std::nullopt;  ///< what a hand does
   Scroll scroll = Scroll::None;
 };
 

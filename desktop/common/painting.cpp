@@ -31,8 +31,7 @@ void PaintLabel(Canvas& canvas, const Element& label, const Scale& scale) {
   for (const TextLine& line : LinesOf(label, canvas.Type())) canvas.Write(line, label.Font, label.ForeColor);
 }
 
-}  // namespace
-
+/// A visible one; a control paints nothing of its own here.
 void Paint(Canvas& canvas, const Element& element, const Scale& scale) {
   switch (element.Kind) {
     case Kind::Image:
@@ -49,6 +48,15 @@ void Paint(Canvas& canvas, const Element& element, const Scale& scale) {
     case Kind::TextView:
       return;  // they stand in front of all this
   }
+}
+
+}  // namespace
+
+void PaintInside(Canvas& canvas, const Form& form, const Drawing& drawing, const Rect& damaged, const Scale& scale) {
+  canvas.Fill(damaged, {form.BackColor});
+  const Rect touched = scale.Layout(damaged).Grown(1);
+  for (const Element* element : drawing.Meeting({&touched, 1})) Paint(canvas, *element, scale);
+  if (drawing.Ring()) Fill(canvas, RingEdges(*drawing.Ring(), scale));
 }
 
 void PaintButton(Canvas& canvas, const Element& button, const ButtonState& state, const Scale& scale) {

@@ -1,6 +1,7 @@
 // How the records of a form are painted, in the few calls that a desktop has to offer.
 #pragma once
 
+#include "desktop/common/drawing.h"
 #include "desktop/common/edges.h"
 #include "desktop/common/scale.h"
 #include "desktop/common/text_box.h"
@@ -20,8 +21,9 @@ class Canvas {
   virtual void Write(const TextLine& line, const Font& font, Colour colour) = 0;
 };
 
-/// Paints a shape, panel, line, image or label. A visible one; others paint nothing of their own here.
-void Paint(Canvas& canvas, const Element& element, const Scale& scale);
+/// Paints what lies in `damaged`, in device pixels, of a form's ground, images, labels and ring. The canvas begins
+/// inside the form's border and paints nothing beyond `damaged`.
+void PaintInside(Canvas& canvas, const Form& form, const Drawing& drawing, const Rect& damaged, const Scale& scale);
 
 /// Paints a push button whose upper left corner is the canvas's.
 void PaintButton(Canvas& canvas, const Element& button, const ButtonState& state, const Scale& scale);

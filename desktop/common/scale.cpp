@@ -44,4 +44,8 @@ Rect BoxOf(const Element& element) {
   return {Nearest(element.Left), Nearest(element.Top), Nearest(element.Width), Nearest(element.Height)};
 }
 
+Rect BoxOf(const Stop& stop) {
+  return {Nearest(stop.Left), Nearest(stop.Top), Nearest(stop.Width), Nearest(stop.Height)};
+}
+
 }  // namespace desktop::common

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/common/rect.h"
-#include "desktop/element.h"
+#include "desktop/stop.h"
 
 namespace desktop::common {
 
@@ -35,8 +35,9 @@ class Scale {
   double ratio_;
 };
 
-/// An element's box in the layout's pixels.
+/// The box of an element or of a stop in the layout's pixels.
 Rect BoxOf(const Element& element);
+Rect BoxOf(const Stop& stop);
 
 /// The scales in which pictures are carried; every picture is in the first and the last, and those with a
 /// dithered shadow, which bears no scaling, in all.

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
+#include <map>
 
-#include "desktop/element.h"
+#include "desktop/common/delivery.h"
 #include "desktop/qt/picture_store.h"
 
 namespace desktop::qt {
@@ -18,13 +18,29 @@ class Control {
   virtual void Follow(const Element& record) = 0;
 };
 
-/// What a control tells the form: of the mouse alone, as keys go to the form.
-struct ControlEvents {
-  std::function<void()> pressed;
-  std::function<void()> clicked;
-};
+/// All that stand on one form. They tell of the mouse alone, as keys go to the form's view.
+class Controls {
+ public:
+  /// The widgets belong to `view`, which also filters their events.
+  Controls(Form& form, common::Delivery& delivery, PictureStore& pictures, QWidget& view)
+      : form_(form), delivery_(delivery), pictures_(pictures), view_(view) {}
 
-/// Makes the widget for a record of a control's kind. The widget belongs to `parent`.
-Control* MakeControl(const Element& record, const ControlEvents& events, PictureStore& pictures, QWidget* parent);
+  /// Takes over what the records say, and makes widgets for new ones.
+  void Follow();
+  /// Of a control that has been followed.
+  QWidget& WidgetOf(const Element& record) const { return made_.at(&record)->widget(); }
+
+ private:
+  Control& ControlOf(Element& record);
+  Control* Make(Element& record);
+  template <typename Button>
+  Control* Connected(Button* button, Element& record);
+
+  Form& form_;
+  common::Delivery& delivery_;
+  PictureStore& pictures_;
+  QWidget& view_;
+  std::map<const Element*, Control*> made_;
+};
 
 }  // namespace desktop::qt

@@ -18,17 +18,15 @@ FormView::FormView(Form& form, common::Delivery& delivery, PictureStore& picture
     : QWidget(parent), form_(form), delivery_(delivery), pictures_(pictures) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   installEventFilter(this);
-  DescribeToReaders();
+  FormReading::Offer();
   setAccessibleName(Text(form.AccessibleName));
   DecodePictures();
 }
 
-/// What is on the form or will come onto it, so that no step of a throw has to wait for it.
+/// So that no step of a throw has to wait for one.
 void FormView::DecodePictures() {
   const common::Scale scale(devicePixelRatioF());
-  for (const Picture* picture : form_.PicturesToCome) pictures_.Sized(*picture, scale.Device(*picture));
-  for (const Element* element : form_.Graphics())
-    if (element->Picture && !element->Stretch) pictures_.Sized(*element->Picture, scale.Device(*element->Picture));
+  for (const Picture* picture : common::PicturesOf(form_)) pictures_.Sized(*picture, scale.Device(*picture));
 }
 
 void FormView::Follow() {
@@ -37,25 +35,16 @@ void FormView::Follow() {
     const common::Scale scale(devicePixelRatioF());
     marked_ += ToQt(scale.Layout(scale.Outward(area)).Moved(form_.Border, form_.Border));
   }
-  FollowControls();
+  controls_.Follow();
   FollowPointer();
-  FollowDescription();
 }
 
 void FormView::Draw(bool atOnce) {
+  const bool isHeard = QAccessible::isActive();
   const QRegion marked = std::exchange(marked_, {});
-  if (marked.isEmpty()) return;
-  atOnce ? repaint(marked) : update(marked);
-}
-
-void FormView::FollowControls() {
-  for (Element* element : form_.Controls()) {
-    Control& control = ControlOf(*element);
-    control.widget().setGeometry(ToQt(common::BoxOf(*element).Moved(form_.Border, form_.Border)));
-    control.widget().setEnabled(element->Enabled);
-    control.widget().setVisible(element->Visible);
-    control.Follow(*element);
-  }
+  if (!marked.isEmpty()) atOnce || isHeard ? repaint(marked) : update(marked);
+  // Only now, so that nothing is said before it shows.
+  if (isHeard) FormReading::Of(*this).Tell(telling_.News());
 }
 
 void FormView::FollowPointer() {
@@ -64,27 +53,9 @@ void FormView::FollowPointer() {
   setCursor(shape_ == PointerShape::NoDrop ? Qt::ForbiddenCursor : Qt::ArrowCursor);
 }
 
-void FormView::FollowDescription() {
-  if (!QAccessible::isActive()) return;
-  const QString words = QString::fromStdString(form_.Description());
-  if (words == description_) return;
-  description_ = words;
-  setAccessibleDescription(words);  // which announces it
-}
-
-Control& FormView::ControlOf(Element& element) {
-  Control*& control = controls_[&element];
-  if (control) return *control;
-  const ControlEvents events{.pressed = [this, &element] { delivery_.PressControl(form_, element); },
-                             .clicked = [this, &element] { delivery_.ClickControl(form_, element); }};
-  control = MakeControl(element, events, pictures_, this);
-  control->widget().installEventFilter(this);
-  return *control;
-}
-
 void FormView::TakeKeyboard() {
   const Element* focus = common::FocusOf(form_);
-  QWidget& holder = focus ? controls_.at(focus)->widget() : *this;
+  QWidget& holder = focus ? controls_.WidgetOf(*focus) : *this;
   holder.setFocus();
 }
 
@@ -104,9 +75,7 @@ void FormView::paintEvent(QPaintEvent* event) {
     // One by one: within a region of several the toolkit draws pictures span by span, on threads of its own.
     const common::Rect device = scale.Outward(area.Grown(1).Shared(inside));
     canvas.ClipTo(device);
-    canvas.Fill(device, {form_.BackColor});
-    const common::Rect touched = scale.Layout(device).Grown(1);
-    for (const Element* element : drawing_.Meeting({&touched, 1})) common::Paint(canvas, *element, scale);
+    common::PaintInside(canvas, form_, drawing_, device, scale);
   }
 }
 

@@ -3,10 +3,10 @@
 
 #include <QRegion>
 #include <QWidget>
-#include <map>
 
 #include "desktop/common/delivery.h"
 #include "desktop/common/drawing.h"
+#include "desktop/common/telling.h"
 #include "desktop/common/views.h"
 #include "desktop/qt/control.h"
 #include "desktop/qt/fonts.h"
@@ -28,6 +28,9 @@ class FormView : public QWidget, public common::View {
   void Retire() override;
 
   Form& form() const { return form_; }
+  QWidget* WidgetOf(const Element& control) const { return &controls_.WidgetOf(control); }
+  /// For a screen reader.
+  void MoveHand(const Hand& hand) { delivery_.MoveHand(form_, hand); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -40,10 +43,7 @@ class FormView : public QWidget, public common::View {
 
  private:
   void DecodePictures();
-  void FollowControls();
   void FollowPointer();
-  void FollowDescription();
-  Control& ControlOf(Element& element);
   QPointF OnForm(const QMouseEvent& event) const;
   bool TakeKey(QKeyEvent& event);
 
@@ -52,10 +52,10 @@ class FormView : public QWidget, public common::View {
   PictureStore& pictures_;
   TypeMeasure type_;
   common::Drawing drawing_{form_, type_};
+  common::Telling telling_{form_};
   QRegion marked_;  ///< to be drawn again
-  std::map<const Element*, Control*> controls_;
+  Controls controls_{form_, delivery_, pictures_, *this};
   PointerShape shape_ = PointerShape::Default;
-  QString description_;
 };
 
 }  // namespace desktop::qt

@@ -15,6 +15,6 @@ int ButtonOf(Qt::MouseButton button);
 int ButtonsOf(Qt::MouseButtons buttons);
 
 /// None for a key that means nothing on a form.
-std::optional<common::Key> KeyOf(const QKeyEvent& event);
+std::optional<Key> KeyOf(const QKeyEvent& event);
 
 }  // namespace desktop::qt

@@ -56,8 +56,7 @@ void QtDesktop::RunEventsUntil(double moment) {
 }
 
 bool QtDesktop::AskYesNo(std::string_view text, std::string_view title) {
-  delivery_->PrepareQuestion();
-  return QuestionBox(Text(title), WithoutReturns(text), window_.get()).Ask();
+  return delivery_->Ask([&] { return QuestionBox(Text(title), WithoutReturns(text), window_.get()).Ask(); });
 }
 
 std::string QtDesktop::ReadSetting(std::string_view application, std::string_view section, std::string_view key,

@@ -97,7 +97,7 @@ void SimulatedDesktop::Menu(std::string_view name) {
   afterEvent();
 }
 
-void SimulatedDesktop::PressKey(common::Key key, bool held) {
+void SimulatedDesktop::PressKey(Key key, bool held) {
   delivery_->PressKey(key, held);
   afterEvent();
 }
@@ -158,14 +158,15 @@ float SimulatedDesktop::Random() {
 }
 
 bool SimulatedDesktop::AskYesNo(std::string_view text, std::string_view title) {
-  delivery_->PrepareQuestion();
   questions.push_back({clock_, std::string(text)});
   titles.emplace_back(title);
-  whileAsked();
-  if (answers.empty()) throw std::logic_error("no answer to: " + std::string(title) + ": " + std::string(text));
-  const bool answer = answers.front();
-  answers.pop_front();
-  return answer;
+  return delivery_->Ask([&] {
+    whileAsked();
+    if (answers.empty()) throw std::logic_error("no answer to: " + std::string(title) + ": " + std::string(text));
+    const bool answer = answers.front();
+    answers.pop_front();
+    return answer;
+  });
 }
 
 std::string SimulatedDesktop::ReadSetting(std::string_view application, std::string_view section, std::string_view key,

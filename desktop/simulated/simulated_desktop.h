@@ -62,11 +62,9 @@ class SimulatedDesktop : public Desktop, private common::Screen {
   /// The platform takes the mouse away.
   void LoseMouse();
   void Menu(std::string_view name);
-  void PressKey(common::Key key, bool held = false);
-  void Enter() { PressKey(common::Key::Enter); }
-  void Escape() { PressKey(common::Key::Escape); }
-  void Space() { PressKey(common::Key::Space); }
-  void Tab() { PressKey(common::Key::Tab); }
+  void PressKey(Key key, bool held = false);
+  void Enter() { PressKey(Key::Enter); }
+  void Space() { PressKey(Key::Space); }
   void SetState(WindowState state);
   void CloseFrame();
 

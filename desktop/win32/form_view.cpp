@@ -30,13 +30,10 @@ FormView::FormView(Form& form, common::Delivery& delivery, Materials& materials,
   DecodePictures();
 }
 
-/// What is on the form or will come onto it, so that no step of a throw has to wait for it.
+/// So that no step of a throw has to wait for one.
 void FormView::DecodePictures() {
   const common::Scale& scale = materials_.scale;
-  for (const Picture* picture : form_.PicturesToCome) materials_.pictures.Sized(*picture, scale.Device(*picture));
-  for (const Element* element : form_.Graphics())
-    if (element->Picture && !element->Stretch)
-      materials_.pictures.Sized(*element->Picture, scale.Device(*element->Picture));
+  for (const Picture* picture : common::PicturesOf(form_)) materials_.pictures.Sized(*picture, scale.Device(*picture));
 }
 
 void FormView::Follow() {
@@ -90,7 +87,9 @@ FormView::Standing& FormView::StandingOf(Element& element) {
                              const common::Rect& place = standing.place;
                              const int border = Border();
                              canvas.BeginAt(border - place.left, border - place.top);
-                             PaintInside(canvas, canvas.Damaged().Moved(place.left - border, place.top - border));
+                             const common::Rect damaged =
+                                 canvas.Damaged().Moved(place.left - border, place.top - border);
+                             common::PaintInside(canvas, form_, drawing_, damaged, materials_.scale);
                              canvas.BeginAt(0, 0);
                            }};
   standing.control = MakeControl(element, std::move(events), materials_, handle());
@@ -191,15 +190,7 @@ void FormView::Paint() {
   canvas.BeginAt(Border(), Border());
   const common::Rect inside{0, 0, scale.Device(form_.Width - 2 * form_.Border),
                             scale.Device(form_.Height - 2 * form_.Border)};
-  PaintInside(canvas, canvas.Damaged().Moved(-Border(), -Border()).Shared(inside));
-}
-
-/// `damaged` is in device pixels from inside the border.
-void FormView::PaintInside(common::Canvas& canvas, const common::Rect& damaged) const {
-  const common::Scale& scale = materials_.scale;
-  canvas.Fill(damaged, {form_.BackColor});
-  const common::Rect areas[] = {scale.Layout(damaged).Grown(1)};
-  for (const Element* element : drawing_.Meeting(areas)) common::Paint(canvas, *element, scale);
+  common::PaintInside(canvas, form_, drawing_, canvas.Damaged().Moved(-Border(), -Border()).Shared(inside), scale);
 }
 
 void FormView::Press(int button, LPARAM point) {

@@ -50,7 +50,6 @@ class FormView : public Window, public common::View {
   void FollowDescription();
   Standing& StandingOf(Element& element);
   void Paint();
-  void PaintInside(common::Canvas& canvas, const common::Rect& damaged) const;
   int Border() const { return materials_.scale.Device(form_.Border); }
 
   void Press(int button, LPARAM point);

@@ -30,16 +30,20 @@ int HeldIn(WPARAM flags) {
          (flags & MK_MBUTTON ? kMiddleButton : 0);
 }
 
-std::optional<common::Key> KeyOf(WPARAM code) {
-  using common::Key;
+std::optional<Key> KeyOf(WPARAM code) {
   struct Pair {
     WPARAM code;
     Key key;
   };
-  constexpr Pair kKeys[] = {{VK_RETURN, Key::Enter}, {VK_SPACE, Key::Space},  {VK_ESCAPE, Key::Escape},
-                            {VK_UP, Key::Up},        {VK_DOWN, Key::Down},    {VK_LEFT, Key::Left},
-                            {VK_RIGHT, Key::Right},  {VK_PRIOR, Key::PageUp}, {VK_NEXT, Key::PageDown},
-                            {VK_HOME, Key::Home},    {VK_END, Key::End}};
+  constexpr Pair kKeys[] = {{VK_RETURN, Key::Enter},   {VK_SPACE, Key::Space},  {VK_ESCAPE, Key::Escape},
+                            {VK_UP, Key::Up},          {VK_DOWN, Key::Down},    {VK_LEFT, Key::Left},
+                            {VK_RIGHT, Key::Right},    {VK_PRIOR, Key::PageUp}, {VK_NEXT, Key::PageDown},
+                            {VK_HOME, Key::Home},      {VK_END, Key::End},      {VK_DELETE, Key::Delete},
+                            {VK_BACK, Key::Backspace}, {VK_ADD, Key::Plus},     {VK_OEM_PLUS, Key::Plus}};
+  constexpr WPARAM kDigits[] = {'1', VK_NUMPAD1};
+  for (const WPARAM one : kDigits)
+    if (code >= one && code < one + 6)
+      return static_cast<Key>(static_cast<int>(Key::One) + static_cast<int>(code - one));
   if (code == VK_TAB) return IsDown(VK_SHIFT) ? Key::BackTab : Key::Tab;
   const auto* found = std::ranges::find(kKeys, code, &Pair::code);
   return found == std::end(kKeys) ? std::nullopt : std::optional(found->key);

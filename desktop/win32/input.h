@@ -16,7 +16,7 @@ int ReleasedBy(UINT message);
 int HeldIn(WPARAM flags);
 
 /// None for a key that means nothing on a form.
-std::optional<common::Key> KeyOf(WPARAM code);
+std::optional<Key> KeyOf(WPARAM code);
 /// Whether a WM_KEYDOWN tells of a key that is held down and repeats.
 inline bool IsRepeated(LPARAM details) { return (details & 1 << 30) != 0; }
 bool IsCopy(WPARAM code);

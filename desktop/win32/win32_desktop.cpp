@@ -70,8 +70,7 @@ void Win32Desktop::RunEventsUntil(double moment) {
 }
 
 bool Win32Desktop::AskYesNo(std::string_view text, std::string_view title) {
-  delivery_->PrepareQuestion();
-  return win32::AskYesNo(window_->handle(), text, title);
+  return delivery_->Ask([&] { return win32::AskYesNo(window_->handle(), text, title); });
 }
 
 std::string Win32Desktop::ReadSetting(std::string_view application, std::string_view section, std::string_view key,

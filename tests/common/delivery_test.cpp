@@ -8,6 +8,7 @@
 namespace {
 
 using namespace desktop::common;
+using desktop::Key;
 using desktop::kLeftButton;
 using desktop::WindowState;
 
@@ -56,7 +57,7 @@ TEST_F(Bench, WhateverTakesTheMouseTellsTheOneThatHoldsIt) {
       {"the window hides", [&] { delivery.Hide(); }, "lost a; | "},
       {"it is minimised", [&] { delivery.Resize(WindowState::Minimised); }, "lost a; | resize 1; "},
       {"it is maximised", [&] { delivery.Resize(WindowState::Maximised); }, "| resize 2; "},
-      {"a question", [&] { delivery.PrepareQuestion(); }, "lost a; | "},
+      {"a question", [&] { delivery.Ask([] { return true; }); }, "lost a; | "},
       {"a handler", [&] { delivery.ReleaseMouse(); }, "lost a; "},
       {"a release that was lost", [&] { delivery.Move(0, 1, 1); }, "lost a; | "},
       {"a second press", [&] { delivery.Press(form, kLeftButton, 52, 52); }, "lost a; down c 1 at 30,30; | "}};

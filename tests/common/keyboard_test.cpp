@@ -8,6 +8,7 @@
 namespace {
 
 using namespace desktop::common;
+using desktop::Key;
 
 class Keyboard : public testing::Test {
  protected:

@@ -86,7 +86,7 @@ TEST(Change, PiecesAndCupWaitForItsEnd) {
   const Ledger ledger(play);
   // The left button is down on the cup before the exchange starts from the keyboard.
   play.desktop.Press(45, 80);
-  play.table().Focus = &play.table().Command1;
+  play.desktop.SetFocus(play.table(), play.table().Command1);
   play.desktop.InRest(1, [&] { play.desktop.Release(45, 80); });
   int tried = 0;
   for (int rest = 3; rest <= 17; rest += 2)

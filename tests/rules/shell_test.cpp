@@ -64,19 +64,4 @@ TEST(Menu, NewGameOpensTheTableOverTheOpeningForm) {
   EXPECT_EQ(play.money().MoneyCount, (Counts{1, 0, 0})) << "its own offer decides";
 }
 
-TEST(Description, NamesEachTotalSquareAndDie) {
-  AtTable play;
-  for (int square = 0; square < 6; ++square) ASSERT_TRUE(play.Bet(2, square));
-  EXPECT_TRUE(play.table().Description().starts_with(
-      "Your money: £194. Ten Pound Notes: £130. Five Pound Notes: £60. One Pound Coins: £4. heart: £1 Bet. spade: £1 "
-      "Bet. diamond: £1 Bet. club: £1 Bet. thistle: £1 Bet. lantern: £1 Bet. Dice: "))
-      << play.table().Description();
-  for (const auto& [dice, words] : {std::pair{std::array{0, 1, 2}, " Dice: heart, spade, diamond."},
-                                    {std::array{3, 4, 5}, " Dice: club, thistle, lantern."}}) {
-    play.DealThrow(dice[0], dice[1], dice[2]);
-    ASSERT_TRUE(play.ThrowCup() && play.Bet(0, 0));
-    EXPECT_TRUE(play.table().Description().ends_with(words)) << play.table().Description();
-  }
-}
-
 }  // namespace

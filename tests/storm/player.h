@@ -54,12 +54,15 @@ class Player : public Source {
     const Element* inHand = play.desktop.InHand();
     const bool carries = inHand && inHand->Name == "Money";
     const int roll = Roll(100);
+    if (Roll(100) < typing_) return {0, "key", AnyKey()};
     if (leftDown_ && roll < (carries ? 35 : 5)) return AtTheMouse("move", "-", Somewhere(play));
     if (leftDown_ && roll < 80) return AtTheMouse("release", "left", Roll(4) == 0 ? Somewhere(play) : last_);
-    if (leftDown_ && roll < 88) return {0, "key", Roll(2) == 0 ? "Space" : "Tab"};
+    if (leftDown_ && roll < 88) return {0, "key", AnyKey()};
     if (!leftDown_ && roll < 80) return AtTheMouse("press", "left", Somewhere(play));
     return Aside(play);
   }
+
+  std::string AnyKey() { return std::next(Keys().begin(), Roll(Keys().size()))->first; }
 
   static Input AtTheMouse(std::string what, std::string which, Point point) {
     return {0, std::move(what), std::move(which), point.x, point.y};
@@ -68,12 +71,12 @@ class Player : public Source {
   Input Aside(simulated::Play& play) {
     using namespace thistle::menu;
     constexpr std::array<std::string_view, 2> kAside[] = {
-        {"press", "left"},    {"press", "right"},    {"press", "right"},      {"press", "right"},
-        {"press", "middle"},  {"release", "left"},   {"move", "-"},           {"release", "right"},
-        {"release", "right"}, {"release", "middle"}, {"key", "Enter"},        {"key", "Space"},
-        {"key", "Escape"},    {"key", "Tab"},        {"key", "Tab"},          {"lose", "-"},
-        {"menu", kNewGame},   {"window", "normal"},  {"menu", kOptions},      {"menu", kInstructions},
-        {"menu", kSupport},   {"menu", kAbout},      {"window", "minimised"}, {"window", "maximised"}};
+        {"press", "left"},       {"press", "right"},      {"press", "right"}, {"press", "right"},
+        {"press", "middle"},     {"release", "left"},     {"move", "-"},      {"release", "right"},
+        {"release", "right"},    {"release", "middle"},   {"key", "Enter"},   {"key", "Escape"},
+        {"key", "Tab"},          {"lose", "-"},           {"menu", kNewGame}, {"window", "normal"},
+        {"menu", kOptions},      {"menu", kInstructions}, {"menu", kSupport}, {"menu", kAbout},
+        {"window", "minimised"}, {"window", "maximised"}};
     if (Roll(40) == 0) return Roll(2) == 0 ? Input{0, "close", "-"} : Input{0, "menu", std::string(kExit)};
     const auto& [what, which] = kAside[Roll(std::size(kAside))];
     return AtTheMouse(std::string(what), std::string(which), what == "release" ? last_ : Somewhere(play));
@@ -112,8 +115,9 @@ class Player : public Source {
   }
 
   std::mt19937_64 chance_;
-  const int favourite_ = Roll(6);  ///< square
-  const int haste_ = Roll(9);      ///< to throw
+  const int favourite_ = Roll(6);                                               ///< square
+  const int haste_ = Roll(9);                                                   ///< to throw
+  const int typing_ = std::array{0, 5, 60}[static_cast<std::size_t>(Roll(3))];  ///< percent of all inputs
   long inputs_;
   long planned_ = 0;
   std::ostream& list_;

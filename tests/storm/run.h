@@ -81,7 +81,9 @@ class Run {
       play_.desktop.LoseMouse();
       if (play_.table().Loaded && play_.money().MoneyValue[3] == 0) ExpectNewGame();
     }
+    const auto bets = play_.table().BetValue;
     Deliver(input, play_.desktop);
+    if (input.what == "key" && play_.desktop.Waits() == 0 && bets != play_.table().BetValue) ++tally_["bet by a key"];
     if (play_.desktop.Waits() == 0 && play_.table().Loaded && (!ledger_ || newGame_)) OpenLedger();
   }
 
@@ -90,6 +92,7 @@ class Run {
     const bool yes = source_.Answer(Now());
     play_.desktop.answers = {yes};
     ++tally_[text.substr(0, text.find_first_of("\r£")) + (yes ? ": Yes" : ": No")];
+    PressKeysInVain();
     if (yes && text.starts_with("Are you sure you want to start again")) ExpectNewGame();
     if (yes && text == thistle::texts::kNoMoneyLeft) ledger_->Give(kFreshStake);
     if (text.starts_with("You Have £")) {
@@ -98,6 +101,13 @@ class Run {
       EXPECT_EQ(text, thistle::texts::MoneyFromPreviousGame(left));
       if (yes) stake_ = left;
     }
+  }
+
+  /// The question has them for itself. What they did all the same, the ledger would miss later.
+  void PressKeysInVain() {
+    const auto looks = std::exchange(play_.desktop.afterEvent, [] {});
+    for (const auto& [name, key] : Keys()) play_.desktop.PressKey(key);
+    play_.desktop.afterEvent = looks;
   }
 
   /// During a wait it starts only when all that waits has come to its end.

@@ -66,6 +66,18 @@ inline Script ReadScript(const std::filesystem::path& file) {
   return script;
 }
 
+inline const std::map<std::string, desktop::Key>& Keys() {
+  using enum desktop::Key;
+  static const std::map<std::string, desktop::Key> keys{
+      {"Enter", Enter},   {"Space", Space},     {"Escape", Escape},
+      {"Tab", Tab},       {"BackTab", BackTab}, {"Up", Up},
+      {"Down", Down},     {"Left", Left},       {"Right", Right},
+      {"Delete", Delete}, {"Plus", Plus},       {"1", One},
+      {"2", Two},         {"3", Three},         {"4", Four},
+      {"5", Five},        {"6", Six},           {"Backspace", Backspace}};
+  return keys;
+}
+
 /// Does to the run what the input says.
 inline void Deliver(const Input& input, simulated::SimulatedDesktop& desktop) {
   using enum desktop::WindowState;
@@ -78,10 +90,7 @@ inline void Deliver(const Input& input, simulated::SimulatedDesktop& desktop) {
   if (input.what == "move") desktop.Move(input.x, input.y);
   if (input.what == "release") desktop.Release(input.x, input.y, button);
   if (input.what == "menu") desktop.Menu(which);
-  if (which == "Enter") desktop.Enter();
-  if (which == "Space") desktop.Space();
-  if (which == "Escape") desktop.Escape();
-  if (which == "Tab") desktop.Tab();
+  if (input.what == "key") desktop.PressKey(Keys().at(which));
   if (input.what == "window")
     desktop.SetState(which == "normal" ? Normal : which == "minimised" ? Minimised : Maximised);
   if (input.what == "close") desktop.CloseFrame();
