@@ -108,6 +108,7 @@ Stop frmGame::SquareStop(int square) const {
   const std::string words = SquareInWords(square);
   Stop stop =
       StopAt(Image1[square], std::string(texts::kSquares[square]), words.empty() ? std::string(texts::kNoBet) : words);
+  stop.Height = Label1[square].Top + Label1[square].Height - stop.Top;
   stop.Neighbours = BesideSquare(square);
   const std::optional<int> more = DenominationLaid ? FrontPiece(*DenominationLaid) : std::nullopt;
   if (more) stop.Deeds.push_back({{Key::Enter, Key::Plus}, std::string(texts::kBetMore), HandTo(*more, square)});

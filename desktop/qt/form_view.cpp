@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <QTimer>
 #include <utility>
 
 #include "desktop/common/painting.h"
@@ -43,8 +44,12 @@ void FormView::Draw(bool atOnce) {
   const bool isHeard = QAccessible::isActive();
   const QRegion marked = std::exchange(marked_, {});
   if (!marked.isEmpty()) atOnce || isHeard ? repaint(marked) : update(marked);
-  // Only now, so that nothing is said before it shows.
-  if (isHeard) FormReading::Of(*this).Tell(telling_.News());
+  if (!isHeard || std::exchange(tells_, true)) return;
+  // Once what is shown now has been shown: all that one hand has done at once.
+  QTimer::singleShot(0, this, [this] {
+    tells_ = false;
+    FormReading::Of(*this).Tell(telling_.News());
+  });
 }
 
 void FormView::FollowPointer() {

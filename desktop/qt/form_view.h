@@ -53,7 +53,8 @@ class FormView : public QWidget, public common::View {
   TypeMeasure type_;
   common::Drawing drawing_{form_, type_};
   common::Telling telling_{form_};
-  QRegion marked_;  ///< to be drawn again
+  QRegion marked_;      ///< to be drawn again
+  bool tells_ = false;  ///< a screen reader is about to be told
   Controls controls_{form_, delivery_, pictures_, *this};
   PointerShape shape_ = PointerShape::Default;
 };

@@ -52,7 +52,8 @@ void StopReading::doAction(const QString& action) {
   QMetaObject::invokeMethod(
       &view(),
       [&view = view(), action, number = number_] {
-        for (const Deed& deed : view.form().Stops().at(static_cast<std::size_t>(number)).Deeds)
+        const std::vector<Stop> stops = view.form().Stops();
+        for (const Deed& deed : stops[static_cast<std::size_t>(number)].Deeds)
           if (Text(deed.Name) == action) return view.MoveHand(deed.Hand);
       },
       Qt::QueuedConnection);

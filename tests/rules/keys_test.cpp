@@ -62,7 +62,7 @@ TEST_F(Keys, ArrowsLeadToTheNeighbour) {
 TEST_F(Keys, TheRingIsAroundWhatHasTheKeyboardUntilTheMouseIsUsed) {
   using desktop::common::RingOf;
   ASSERT_TRUE(Press({Key::Tab, Key::Five, Key::Up}));
-  EXPECT_EQ(RingOf(table), (desktop::common::Rect{210, 152, 108, 108}));
+  EXPECT_EQ(RingOf(table), (desktop::common::Rect{210, 152, 108, 116}));
   play.desktop.ClickAt(630, 150);
   EXPECT_FALSE(RingOf(table));
   ASSERT_TRUE(Press({Key::Right, Key::Up}));
