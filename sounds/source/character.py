@@ -74,7 +74,7 @@ def elevator(x, rate):
 
 def peoplelaugh(x, rate):
     crowd = m.part(x, rate, 0.5, 5)
-    yield Claim("peak of the envelope's spectrum, Hz", m.beat(crowd, rate), 3.5, 6)
+    yield Claim("calls a second", m.beat(crowd, rate), 4.4, 4.9)
     yield Claim("envelope variation", m.variation(crowd, rate, 0.02), 0.25, 0.5)
     yield Claim("envelope periodicity", m.periodicity(crowd, rate), -1, 0.3)
     yield Claim("spectral centroid, Hz", m.centroid(crowd, rate), 800, 1600)

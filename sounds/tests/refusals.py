@@ -60,6 +60,8 @@ TOYS = [
     ("ELEVATOR", "a tone", "partials above the prime, dB to it", lambda x, r: m.band(x, r, high=2300)),
     ("ELEVATOR", "loud", "loudness as heard, LUFS", lambda x, r: x * 2),
     ("PEOPLELAUGH", "no end", "slope from 5 to 6.2 s, dB a second", lambda x, r: np.resize(x[r:4 * r], x.size)),
+    ("PEOPLELAUGH", "slower", "calls a second", lambda x, r: resample_poly(x, 10, 9)[:x.size]),
+    ("PEOPLELAUGH", "faster", "calls a second", lambda x, r: resample_poly(x, 9, 10)),
     ("PEOPLELAUGH", "no swell", "first laughs, dB to the crowd", lambda x, r: np.roll(x, -r)),
     ("PEOPLELAUGH", "no squeals", "squeals from 500 to 800 Hz", lambda x, r: m.band(x, r, low=1100)),
     ("RULEBRITANNIA", "low", "notes of the tune at their pitch", lambda x, r: resample_poly(x, 18, 17)[:x.size]),
