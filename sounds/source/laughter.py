@@ -138,6 +138,7 @@ def _seat(rng, front):
 
 
 def laughter():
+    # Chosen among many: the rhythm of so few people differs from draw to draw.
     rng = seeded(30)
     crowd = silence(LENGTH)
     for person in range(VOICES):
