@@ -21,4 +21,7 @@ class Telling {
   std::vector<std::string> told_;
 };
 
+/// All that there is to say of a form now: the stop that has the keyboard, then every sentence.
+std::string InWords(const Form& form);
+
 }  // namespace desktop::common

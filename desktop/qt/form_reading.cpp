@@ -87,10 +87,7 @@ QAccessibleInterface* FormReading::focusChild() const {
 
 QString FormReading::text(QAccessible::Text kind) const {
   if (kind != QAccessible::Description) return QAccessibleWidget::text(kind);
-  QStringList sentences;
-  for (const std::string& sentence : view_.form().Sentences())
-    if (!sentence.empty()) sentences += Text(sentence);
-  return sentences.join(u' ');
+  return Text(common::InWords(view_.form()));
 }
 
 void FormReading::Tell(const std::string& news) {

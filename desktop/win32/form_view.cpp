@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "desktop/common/painting.h"
+#include "desktop/common/telling.h"
 #include "desktop/win32/annotation.h"
 #include "desktop/win32/input.h"
 #include "desktop/win32/text.h"
@@ -110,7 +111,7 @@ void FormView::FollowMouse() {
 
 void FormView::FollowDescription() {
   if (!described_) return;
-  std::wstring words = Wide(form_.Description());
+  std::wstring words = Wide(common::InWords(form_));
   if (words == description_) return;
   description_ = std::move(words);
   Describe(handle(), description_);
