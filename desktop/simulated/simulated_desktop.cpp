@@ -122,6 +122,7 @@ void SimulatedDesktop::ShowFrame(Frame& frame) {
 
 void SimulatedDesktop::Follow() {
   if (!frame_->Children().empty()) common::TakeKeyboard(*frame_->Children().back());
+  whenFollowed();
 }
 
 void SimulatedDesktop::RunEventsUntil(double moment) {

@@ -41,6 +41,8 @@ class SimulatedDesktop : public Desktop, private common::Screen {
   Area workArea{0, 0, 19200, 12000};
   /// Runs after each event and before each rest.
   std::function<void()> afterEvent = [] {};
+  /// Runs when a real desktop would bring its screen up to date.
+  std::function<void()> whenFollowed = [] {};
   /// Runs while a question is open, before its answer.
   std::function<void()> whileAsked = [] {};
 

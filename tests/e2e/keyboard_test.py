@@ -5,8 +5,21 @@ import os
 import unittest
 
 from desk import Desk, wait_until
-from game import BUTTONS, FRESH, GET_CHANGE, Game, differs_in
+from game import BUTTONS, FRESH, GET_CHANGE, SQUARES, Game, differs_in, pile_place
 from seen import opens_with
+
+
+GROUND = (620, 150)  # where nothing stands
+
+
+def is_ringed(canvas, place):
+    """Whether a ring stands around the place: two dark lines between two light ones, on each side."""
+    left, top, width, height = place
+    across, down = left + width // 2, top + height // 2
+    ring = [(0xFF,) * 3, (0,) * 3, (0,) * 3, (0xFF,) * 3]
+    sides = ([(across, top - 4 + i) for i in range(4)], [(across, top + height + i) for i in range(4)],
+             [(left - 4 + i, down) for i in range(4)], [(left + width + i, down) for i in range(4)])
+    return all([canvas.getpixel(point) for point in side] == ring for side in sides)
 
 
 class Keyboard(unittest.TestCase):
@@ -27,11 +40,24 @@ class Keyboard(unittest.TestCase):
             self.assertEqual(changed, {before, after})
         self.desk.key("Return")
         wait_until("the table", lambda: opens_with(self.game.canvas(), FRESH))
-        canvas = self.game.canvas()
-        self.desk.key("Tab")
-        wait_until("the focus", lambda: differs_in(self.game.canvas(), canvas, GET_CHANGE))
+        self.desk.key("Shift_L", "Tab")
+        wait_until("the ring around Get Change", lambda: is_ringed(self.game.canvas(), GET_CHANGE))
         self.desk.key("space")
+        self.desk.click(*self.game.at(*GROUND))  # which takes the ring away
         wait_until("the exchange", lambda: opens_with(self.game.canvas(), [12, 13, 15]))
+
+    def test_a_ring_shows_where_the_keyboard_is_until_the_mouse_is_used(self):
+        self.game.play()
+        untouched = self.game.canvas()
+        left, top = pile_place(0, 0)
+        self.desk.key("Tab")
+        wait_until("the ring around the notes", lambda: is_ringed(self.game.canvas(), (left, top, 155, 31)))
+        self.desk.key("5")
+        self.desk.key("Up")
+        wait_until("the ring around a square", lambda: is_ringed(self.game.canvas(), (*SQUARES[2][:2], 100, 108)))
+        self.desk.key("Escape")
+        self.desk.click(*self.game.at(*GROUND))
+        wait_until("the table as it was", lambda: self.game.canvas().tobytes() == untouched.tobytes())
 
     def test_the_menu_bar_has_its_own_key(self):
         self.game.play()

@@ -17,7 +17,7 @@ from game import Game, write_settings
 BUTTON = {"left": 1, "middle": 2, "right": 3}
 # By first letters, from the menu bar.
 MENU = {"mnuNewGame": "gn", "mnuExit": "ge", "mnuOptions": "o", "mnuInstr": "hi", "Support": "hs", "mnuAbout": "ha"}
-KEYS = {"Enter": "Return", "Escape": "Escape", "Space": "space", "Tab": "Tab"}
+KEYS = {"Enter": "Return", "Space": "space", "Plus": "KP_Add", "Backspace": "BackSpace"}  # the others go by their own
 
 
 class Told:
@@ -74,7 +74,7 @@ class Hands:
 
     def key(self, which):
         wait_until("the keyboard", self.game.window.has_focus)
-        self.desk.key(KEYS[which])
+        self.desk.key(KEYS.get(which, which))
 
     def menu(self, which):
         wait_until("the keyboard", self.game.window.has_focus)

@@ -12,7 +12,7 @@ class Player {
  public:
   explicit Player(storm::Script script) : script_(std::move(script)), play_(script_.store) {
     play_.desktop.Seed(script_.seed);
-    play_.desktop.afterEvent = [this] { Look(); };
+    play_.desktop.afterEvent = play_.desktop.whenFollowed = [this] { Look(); };
     play_.desktop.whileAsked = [this] { Asked(); };
   }
 
