@@ -18,6 +18,13 @@ inline constexpr int kLeftButton = 1;
 inline constexpr int kRightButton = 2;
 inline constexpr int kMiddleButton = 4;
 
+/// Of a form, in words.
+struct Sentence {
+  std::string Words;
+  int Times = 0;  ///< it has come true: told again when it does so again
+  bool operator==(const Sentence&) const = default;
+};
+
 class Form {
  public:
   explicit Form(std::string_view name) : Name(name) {}
@@ -75,7 +82,7 @@ class Form {
   virtual std::vector<Deed> DeedsAnywhere() const { return {}; }
   /// What a screen reader is told of the pictures on the form: always as many sentences, of which some may be empty.
   /// One that changes is told when it does.
-  virtual std::vector<std::string> Sentences() const { return {}; }
+  virtual std::vector<Sentence> Sentences() const { return {}; }
 
  protected:
   /// Puts an element on the form, in front of those before it.

@@ -60,7 +60,7 @@ class frmGame : public desktop::Form {
   std::vector<desktop::Stop> Stops() const override;
   std::vector<desktop::Deed> DeedsAnywhere() const override;
   // --- sentences.cpp
-  std::vector<std::string> Sentences() const override;
+  std::vector<desktop::Sentence> Sentences() const override;
 
   // --- State. Handlers alone write it.
 
@@ -83,6 +83,7 @@ class frmGame : public desktop::Form {
   bool DropAllowed = false;  ///< the last FindSquare found a square that has a free place
 
   std::optional<int> Refused;           ///< the full square that the last piece to be let go was sent home from
+  int Refusals = 0;                     ///< in all
   std::optional<int> DenominationLaid;  ///< of the last piece that came to lie on the mat
   bool Throwing = false;                ///< the dice are in the cup, or roll
 

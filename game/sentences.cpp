@@ -4,16 +4,16 @@
 
 namespace thistle {
 
-std::vector<std::string> frmGame::Sentences() const {
-  std::vector<std::string> sentences{DiceInWords()};
+std::vector<desktop::Sentence> frmGame::Sentences() const {
+  std::vector<desktop::Sentence> sentences{{DiceInWords()}};
   for (int square = 0; square < kSquares; ++square) {
     const std::string words = SquareInWords(square);
-    sentences.push_back(words.empty() ? words : std::string(texts::kSquares[square]) + ": " + words + ".");
+    sentences.push_back({words.empty() ? words : std::string(texts::kSquares[square]) + ": " + words + "."});
   }
-  sentences.push_back(Refused ? texts::Full(*Refused) : std::string());
+  sentences.push_back({Refused ? texts::Full(*Refused) : std::string(), Refusals});
   // While the bank pays, it changes with each piece: told when the next turn is open.
   const bool open = Instruction[0].Visible;
-  sentences.push_back(open ? std::string(texts::kLabel2.back()) + ": " + Label3.back().Caption + "." : std::string());
+  sentences.push_back({open ? std::string(texts::kLabel2.back()) + ": " + Label3.back().Caption + "." : std::string()});
   return sentences;
 }
 

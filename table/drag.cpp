@@ -38,6 +38,7 @@ void frmGame::Money_MouseUp(int Index, int Button, float X, float Y) {
     DropOnSquare(Index, *square);
   } else {
     Refused = square;
+    Refusals += square ? 1 : 0;
     ReturnToPile(Index);
   }
   StackMoney();

@@ -7,7 +7,7 @@ BUILD=(g++ "${CMAKE[@]}" qt6-base-dev libsdl2-dev)
 WINDOWS=(g++-mingw-w64-x86-64 nsis wine64)
 # A virtual display, and what plays on it.
 DISPLAY_TOOLS=(xvfb openbox python3-xlib python3-pil)
-TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon metacity kwin-x11 icewm weston qt6-wayland
+TESTS=(libgtest-dev clang-format xfwm4 xfconf dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi metacity kwin-x11 icewm weston qt6-wayland
        pulseaudio pulseaudio-utils faketime python3-numpy python3-scipy librsvg2-bin
        file dpkg-dev lintian desktop-file-utils appstream man-db debootstrap)
 

@@ -14,11 +14,11 @@ void Append(std::string& words, const std::string& sentence) {
 }  // namespace
 
 std::string Telling::News() {
-  const std::vector<std::string> sentences = form_.Sentences();
+  const std::vector<Sentence> sentences = form_.Sentences();
   told_.resize(sentences.size());
   std::string news;
   for (std::size_t i = 0; i < sentences.size(); ++i)
-    if (sentences[i] != told_[i]) Append(news, sentences[i]);
+    if (sentences[i] != told_[i]) Append(news, sentences[i].Words);
   told_ = sentences;
   return news;
 }
@@ -27,7 +27,7 @@ std::string InWords(const Form& form) {
   std::string words;
   if (const auto stop = StopWithKeyboard(form))
     words = stop->Name + (stop->Value.empty() ? "." : ", " + stop->Value + ".");
-  for (const std::string& sentence : form.Sentences()) Append(words, sentence);
+  for (const Sentence& sentence : form.Sentences()) Append(words, sentence.Words);
   return words;
 }
 

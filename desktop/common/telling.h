@@ -18,7 +18,7 @@ class Telling {
 
  private:
   const Form& form_;
-  std::vector<std::string> told_;
+  std::vector<Sentence> told_;
 };
 
 /// All that there is to say of a form now: the stop that has the keyboard, then every sentence.

@@ -30,9 +30,9 @@ class OneButton : public Form {
     frame_.Show(*this);
   }
 
-  std::vector<std::string> Sentences() const override {
+  std::vector<Sentence> Sentences() const override {
     ++described;
-    return {"One button."};
+    return {{"One button."}};
   }
 
   mutable int described = 0;
