@@ -2,6 +2,7 @@
 """Spoils good pictures in every way that matters and expects the check to name them."""
 
 import dataclasses
+import re
 import shutil
 import sys
 import tempfile
@@ -199,6 +200,14 @@ class Notes(unittest.TestCase):
 
 
 class Solids(unittest.TestCase):
+    def test_each_is_carried_in_every_scale_that_a_desktop_looks_for(self):
+        header = (catalogue.SOURCE.parents[1] / "desktop/common/scale.h").read_text()
+        listed = re.search(r"kCarriedScales\[\] = \{(.*)\}", header).group(1)
+        scales = [float(scale) for scale in listed.split(",")]
+        for picture in ALL.values():
+            if picture.maker == "solid":
+                self.assertEqual(picture.scales, scales, picture.name)
+
     def test_every_step_of_the_tumble_turns_the_die_as_far(self):
         frames = [seen(f"Anidice{step:02}") for step in range(24)]
         steps = [np.abs(one - other).mean() for one, other in zip(frames, frames[1:] + frames[:1])]

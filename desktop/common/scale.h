@@ -39,8 +39,8 @@ class Scale {
 Rect BoxOf(const Element& element);
 Rect BoxOf(const Stop& stop);
 
-/// The scales in which pictures are carried; every picture is in the first and the last, and those with a
-/// dithered shadow, which bears no scaling, in all.
+/// The scales in which pictures are carried; every picture is in the first and the last, and the die and the
+/// cup, as a dithered shadow bears no scaling, in all.
 inline constexpr double kCarriedScales[] = {1, 1.25, 1.5, 1.75, 2};
 
 /// The scale of the carried picture that is shown `wanted` pixels wide where it measures `width` in the
