@@ -18,8 +18,8 @@ STRAYS_ALLOWED = 0.04
 # More blue than the soft edge of gold or black has on an average.
 BLUE = 48
 # The emblem fills so much of its height and of its width, less of this at the sizes that are too
-# small for leaves; and of its outermost pixels only so few are dark.
-HIGH, WIDE, WIDE_WITHOUT_LEAVES = 0.9, 0.85, 0.65
+# small for its spread leaves; and of its outermost pixels only so few are dark.
+HIGH, WIDE, WIDE_WITHOUT_LEAVES = 0.9, 0.85, 0.75
 LEAFLESS = 32
 DARK, DARK_ALLOWED = 0.08, 0.04
 # So many half dark pixels to a shadow's black ones are the die's own soft edge.
@@ -27,8 +27,6 @@ SMEARED = 0.25
 # The scales of a picture, seen through blocks of this many pixels, differ less than this.
 BLOCK = 8
 UNLIKE = 48
-# The emblem without leaves differs by 125 from the one with them, and by 200 from other pictures.
-UNLIKE_WITHOUT_LEAVES = 150
 # What all pictures together may add to the program.
 BYTES = 1_750_000
 
@@ -112,9 +110,9 @@ def extent(taken):
     return (places[-1] + 1 - places[0]) / len(taken)
 
 
-def emblem_faults(pixels):
+def emblem_faults(picture, pixels):
     solid = pixels[..., 3] >= 128
-    wide = WIDE_WITHOUT_LEAVES if pixels.shape[1] <= LEAFLESS else WIDE
+    wide = WIDE_WITHOUT_LEAVES if picture.width <= LEAFLESS else WIDE
     for side, across, least in (("height", 1, HIGH), ("width", 0, wide)):
         filled = extent(solid.any(axis=across))
         if filled < least:
@@ -185,7 +183,7 @@ def file_faults(picture, folder, scale):
     if picture.maker in ("drawing", "coin", "emblem"):
         yield from fringe_faults(picture, pixels)
     if picture.maker == "emblem":
-        yield from emblem_faults(pixels)
+        yield from emblem_faults(picture, pixels)
     if picture.maker == "solid":
         yield from shadow_faults(pixels)
     if picture.maker == "wood":
@@ -211,10 +209,8 @@ def scale_faults(picture, folder):
     """Tells when two scales do not show the same, as after a mix-up of files."""
     files = [picture.file(folder, scale) for scale in picture.scales]
     views = [blocks(picture, folder, scale) for scale in picture.scales]
-    leafless = picture.maker == "emblem" and picture.width <= LEAFLESS
-    unlike = UNLIKE_WITHOUT_LEAVES if leafless else UNLIKE
     for file, view in zip(files[1:], views[1:]):
-        if np.abs(views[0] - view).max() > unlike:
+        if np.abs(views[0] - view).max() > UNLIKE:
             yield f"{file.name} does not show what {files[0].name} shows"
     if picture.maker == "wood" and sharpening(*files) < FINER:
         yield f"{files[-1].name} is no finer than {files[0].name}"

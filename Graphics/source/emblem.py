@@ -7,11 +7,11 @@ from raster import render_svg
 
 # The smallest of all is set pixel by pixel.
 SET = 16
-# Clear; light, middle and dark gold; black; the window from side to flame.
+# Clear; light, middle and dark gold; black; the lantern's glass, its flame and the flame's heart.
 PAINTS = {".": (0, 0, 0, 0),
           "l": (248, 208, 76, 255), "g": (222, 166, 36, 255), "d": (150, 100, 16, 255),
           "k": (10, 9, 8, 255),
-          "a": (246, 170, 32, 255), "y": (255, 212, 78, 255), "w": (255, 251, 224, 255)}
+          "y": (255, 226, 122, 255), "o": (229, 122, 10, 255), "w": (255, 251, 224, 255)}
 
 
 def set_by_hand():
@@ -21,11 +21,11 @@ def set_by_hand():
     return picture
 
 
-def draw(width, height):
-    if width == SET:
+def draw(picture, scale):
+    if picture.width == SET:
         return set_by_hand()
-    fitted = SOURCE / f"emblem-{width}.svg"
+    fitted = SOURCE / f"emblem-{picture.width}.svg"
     if fitted.exists():
         # What lies between pixels stays there only if nothing is reduced.
-        return render_svg(fitted, width, height, oversample=1)
-    return render_svg(SOURCE / "emblem-large.svg", width, height)
+        return render_svg(fitted, *picture.size(scale), oversample=1)
+    return render_svg(SOURCE / "emblem-large.svg", *picture.size(scale))

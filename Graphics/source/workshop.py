@@ -28,7 +28,7 @@ def sized(draw):
 
 
 MAKERS = {"drawing": drawn, "engraving": engraved,
-          "coin": sized(coin.draw), "emblem": sized(emblem.draw), "wood": sized(wood.draw)}
+          "coin": sized(coin.draw), "emblem": emblem.draw, "wood": sized(wood.draw)}
 
 
 def build_solid(pictures, folder):
