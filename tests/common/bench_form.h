@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "desktop/common/text_box.h"
 #include "desktop/frame.h"
@@ -55,6 +56,7 @@ class Form : public desktop::Form {
     told += "click " + element.Caption + "; ";
     clicked();
   }
+  std::vector<desktop::Stop> Stops() const override { return stops; }
   void ToFront(const Element& element) { BringToFront(element); }
 
   std::array<Element, 3> boxes{Laid(Kind::Image, 0, 0, 10, 10, "a"), Laid(Kind::Image, 5, 0, 10, 10, "b"),
@@ -67,6 +69,7 @@ class Form : public desktop::Form {
   Element off = Laid(Kind::OptionButton, 40, 80, 10, 10, "off");
   Element on = Laid(Kind::OptionButton, 50, 80, 10, 10, "on");
 
+  std::vector<desktop::Stop> stops;
   std::string told;
   std::function<void()> clicked = [] {};
 

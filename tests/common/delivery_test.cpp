@@ -108,6 +108,30 @@ TEST_F(Bench, KeysReachTheFormInFrontAlone) {
   EXPECT_EQ(form.Focus, &form.plain);
 }
 
+TEST_F(Bench, AHandDoesWhatThePlayersOwnCouldDoNow) {
+  const desktop::Hand hand{52, 53, 51, 55};
+  delivery.MoveHand(form, hand);
+  EXPECT_EQ(Told(), "down c 1 at 30,45; | move c 1 at 15,75; | up c 1 at 15,75; click c; | ");
+  delivery.MoveHand(form, {99, 1, 52, 53});
+  EXPECT_EQ(Told(), "| ") << "it has taken hold of nothing";
+  const auto inVain = [&] {
+    delivery.MoveHand(form, hand);
+    delivery.PressKey(Key::Escape, false);
+    return Told();
+  };
+  delivery.Ask([&] {
+    Told();
+    EXPECT_EQ(inVain(), "") << "a question is open";
+    return true;
+  });
+  delivery.MoveHand(back, hand);
+  EXPECT_EQ(back.told, "") << "another form is in front";
+  delivery.Press(form, kLeftButton, 1, 1);
+  Told();
+  delivery.MoveHand(form, hand);
+  EXPECT_EQ(Told(), "") << "the mouse is held";
+}
+
 /// Runs what a test wants within a rest, and counts how often it is ended.
 class ScriptedRest : public Rest {
  public:

@@ -63,4 +63,18 @@ TEST_F(Drawn, ARectangleMeetsWhatItTouchesBackToFront) {
   EXPECT_EQ(names({{0, 0, 100, 100}}), "boa");
 }
 
+TEST_F(Drawn, TheRingIsDrawnWhereItStandsAndTakenAwayWhereItStood) {
+  form.stops.resize(2);
+  form.stops[0].Left = form.stops[0].Top = form.stops[1].Left = 30;
+  form.AtStop = 0;
+  EXPECT_EQ(drawing.Follow(), Rects{}) << "no key has been used";
+  form.ShowsStop = true;
+  EXPECT_EQ(drawing.Follow(), (Rects{{26, 26, 8, 8}}));
+  form.AtStop = 1;
+  EXPECT_EQ(drawing.Follow(), (Rects{{26, 26, 8, 8}, {26, 0, 8, 4}}));
+  EXPECT_EQ(drawing.Ring(), (Rect{26, 0, 8, 4}));
+  form.stops[1].Visible = false;
+  EXPECT_EQ(drawing.Follow(), (Rects{{26, 0, 8, 4}}));
+}
+
 }  // namespace

@@ -78,4 +78,18 @@ TEST(Edges, AButtonsStateIsSeenOnItsEdges) {
   }
 }
 
+TEST(Edges, TheRingHasFourLinesWithoutGapsAtEachScale) {
+  for (const double ratio : {1., 1.25, 1.5, 1.75, 2., 3.}) {
+    const Scale scale(ratio);
+    const Rect ring = scale.Device(Rect{3, 5, 50, 40});
+    const auto edges = RingEdges({3, 5, 50, 40}, scale);
+    for (const auto& [x, y] : {std::pair{1, 20}, {48, 20}, {20, 1}, {20, 38}})
+      EXPECT_EQ(At(edges, scale.Device(3 + x), scale.Device(5 + y)), 0x000000U) << ratio;
+    int covered = 0;
+    for (const auto& edge : edges) covered += edge.place.width * edge.place.height;
+    const Rect inside = scale.Device(Rect{7, 9, 42, 32});
+    EXPECT_EQ(covered, ring.width * ring.height - inside.width * inside.height) << ratio;
+  }
+}
+
 }  // namespace

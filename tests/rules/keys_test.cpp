@@ -85,7 +85,9 @@ TEST_F(Keys, ADigitBetsAPieceWhereTheOthersShow) {
 }
 
 TEST_F(Keys, OnASquareTheyAddTakeBackAndMove) {
-  ASSERT_TRUE(Press({Key::Tab, Key::Tab, Key::Tab, Key::Two, Key::Up, Key::Up, Key::Up, Key::Left}));
+  ASSERT_TRUE(play.Bet(0, 3) && Press({Key::Tab, Key::Tab, Key::Tab, Key::Two}));
+  play.desktop.PressKey(Key::Two, true);
+  ASSERT_TRUE(Press({Key::Up, Key::Up, Key::Up, Key::Left}));
   ASSERT_EQ(At(), "spade");
   ASSERT_TRUE(Press({Key::Enter, Key::Plus, Key::Six, Key::Two}));
   EXPECT_EQ(Value(1), "£2 bet, 2 of 5 pieces");
@@ -94,7 +96,7 @@ TEST_F(Keys, OnASquareTheyAddTakeBackAndMove) {
   EXPECT_EQ(Value(1), "£1 bet, 1 of 5 pieces");
   ASSERT_TRUE(Press({Key::Backspace, Key::Backspace}));
   EXPECT_EQ(Value(1), "no bet");
-  EXPECT_EQ(play.money().MoneyCount, (std::array<std::int64_t, 3>{13, 12, 9}));
+  EXPECT_EQ(play.money().MoneyCount, (std::array<std::int64_t, 3>{12, 12, 9}));
 }
 
 TEST_F(Keys, EscTakesBackWhatWasLaidLast) {
@@ -121,7 +123,11 @@ TEST_F(Keys, WhatTheMouseMayNotDoAKeyMayNotDo) {
   for (int rest = 1; rest < 60; rest += 7) play.desktop.InRest(rest, keepsBets);
   ASSERT_TRUE(play.ThrowCup());
   const int sounds = static_cast<int>(play.desktop.sounds.size());
-  for (int rest = play.desktop.rests + 1; rest < play.desktop.rests + 9; ++rest) play.desktop.InRest(rest, keepsBets);
+  for (int rest = play.desktop.rests + 1; rest < play.desktop.rests + 9; ++rest)
+    play.desktop.InRest(rest, [&] {
+      keepsBets();
+      EXPECT_EQ(Walk({Key::Tab, Key::Tab, Key::BackTab}), "Get Change > Get Change > Get Change");
+    });
   ASSERT_TRUE(play.ClickChange());
   play.desktop.whileAsked = keepsBets;
   play.desktop.answers = {false};
