@@ -14,10 +14,9 @@ import numpy as np
 
 from desk import Desk, stop, wait_until
 from game import CUP, Game, dice_squares, settings, write_settings
+from seen import OLD, start_afresh
 
 LOUD = 2000  # of 32767: far above silence, below every recording
-
-OLD = {"MainLeft": "1500", "MainTop": "900", "SoundOn": "False", "Stash0": "7", "Stash1": "3", "Stash2": "1"}
 
 
 class SoundServer:
@@ -97,9 +96,7 @@ class Faults(unittest.TestCase):
     def test_on_a_full_disk_it_plays_and_ends_and_keeps_the_old_values(self):
         write_settings(self.desk, **OLD)
         with self.game_after("trap '' XFSZ; ulimit -f 0") as game:  # no file can take another byte
-            game.choose("g", "n")
-            game.answer("n")
-            game.wait_for_turn()
+            start_afresh(game)
             self.assertEqual(game.close(), 0)
         self.assertEqual(settings(self.desk), OLD)
 

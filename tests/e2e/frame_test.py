@@ -12,7 +12,7 @@ import unittest
 
 from desk import Desk, wait_until
 from game import CLIENT, FRESH, TABLE, Game, settings, write_settings
-from seen import opens_with
+from seen import minimised_and_back, opens_with
 
 MANAGER = None if sys.argv[1] == "none" else sys.argv[1]
 STRETCH = 3  # seconds
@@ -136,12 +136,6 @@ class Frame(unittest.TestCase):
         game.window.ask_manager("_NET_WM_STATE", add, atom("_NET_WM_STATE_MAXIMIZED_VERT"),
                                 atom("_NET_WM_STATE_MAXIMIZED_HORZ"), 1)
 
-    def minimise_and_bring_back(self, game):
-        game.window.ask_manager("WM_CHANGE_STATE", 3)
-        wait_until("the window to go", lambda: not game.window.is_shown())
-        game.window.ask_manager("_NET_ACTIVE_WINDOW", 2)
-        wait_until("the window to come back", game.window.is_shown)
-
     def wait_for_maximised(self, game, left, top, menu_height):
         """The table stands at the offset of the start; around it there is its colour alone."""
 
@@ -167,13 +161,13 @@ class Frame(unittest.TestCase):
             offset = left, top, normal[3] - CLIENT[1]
             self.maximise(game)
             self.wait_for_maximised(game, *offset)
-            for way_back in (lambda: self.maximise(game, False), lambda: self.minimise_and_bring_back(game)):
+            for way_back in (lambda: self.maximise(game, False), lambda: minimised_and_back(game)):
                 way_back()
                 wait_until("the place before", lambda: game.window.rect() == normal)
                 self.wait_for_exact(game)
             self.maximise(game)
             self.wait_for_maximised(game, *offset)
-            self.minimise_and_bring_back(game)
+            minimised_and_back(game)
             self.wait_for_maximised(game, *offset)
             # Ended while maximised, the run leaves the stored place alone.
             self.assertEqual(game.close(), 0)

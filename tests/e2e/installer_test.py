@@ -15,7 +15,7 @@ import wine
 from desk import Desk, wait_until
 from game import FRESH, TITLE, Game, settings
 from launch import launch
-from seen import opens_with
+from seen import kept, opens_with
 
 NAME = "thistle-and-lantern"
 HOME = pathlib.Path(__file__).parents[2]
@@ -89,12 +89,12 @@ class Installer(unittest.TestCase):
             game.play()
             self.assertTrue(opens_with(game.canvas(), FRESH))
             self.assertEqual(game.close(), 0)
-        kept = settings(self.desk)
-        self.assertEqual([kept[f"Stash{d}"] for d in range(3)], [str(count) for count in FRESH])
+        stored = settings(self.desk)
+        self.assertEqual(kept(self.desk), FRESH)
 
         self.uninstall()
         self.assertEqual(self.traces(), {rf"HKEY_CURRENT_USER\Software\{TITLE}"})
-        self.assertEqual(settings(self.desk), kept)
+        self.assertEqual(settings(self.desk), stored)
 
     def test_it_takes_the_place_of_an_older_version_wherever_that_is(self):
         # Without a blank, as it must not be quoted.

@@ -5,8 +5,8 @@ import unittest
 
 from desk import Desk
 from game import (CAPTIONS, CUP_FRAMES, FRESH, GET_CHANGE, INSTRUCTIONS, MONEY_PICTURES, MONEY_TEXTS, SQUARES, TABLE,
-                  Game, dice_frames, dice_squares, difference, is_blank, payout_place, settings, table)
-from seen import opens_with
+                  Game, dice_frames, dice_squares, difference, is_blank, payout_place, table)
+from seen import kept, opens_with
 from tour import PUSHED, STAKES, payout, tour
 
 
@@ -18,7 +18,7 @@ class Tour(unittest.TestCase):
             for stage in tour(game):
                 cls.stages[stage.name] = stage.canvas
             cls.status = game.close()
-            cls.stored = settings(desk)
+            cls.kept = kept(desk)
         cls.dice = dice_squares(cls.stages["settlement"])
         cls.staked = [(MONEY_PICTURES[piece], (SQUARES[s][0] + at[0], SQUARES[s][1] + at[1]))
                       for s, (piece, _, drop) in enumerate(STAKES) for at in [PUSHED.get(s, drop)]]
@@ -57,7 +57,7 @@ class Tour(unittest.TestCase):
         self.assertTrue(opens_with(canvas, money), "a clean mat, and the piles with what was won")
         self.assertEqual(dice_squares(canvas), self.dice)
         self.assertFalse(is_blank(canvas, GET_CHANGE, TABLE))
-        self.assertEqual([self.stored[f"Stash{d}"] for d in range(3)], [str(count) for count in money])
+        self.assertEqual(self.kept, money)
         self.assertEqual(self.status, 0)
 
 

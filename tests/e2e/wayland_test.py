@@ -10,8 +10,8 @@ from PIL import Image
 
 from desk import Desk, wait_until
 from game import TABLE, settings, shows, write_settings
+from seen import OLD
 
-OLD = {"MainLeft": "1500", "MainTop": "900", "SoundOn": "False", "Stash0": "7", "Stash1": "3", "Stash2": "1"}
 EMBLEM = ("ThistleAndLantern128", (16, 24))
 
 

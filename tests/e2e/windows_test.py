@@ -5,10 +5,9 @@ the mouse taken away, its own view of the instructions."""
 import unittest
 
 from desk import Desk, wait_until
-from game import (CUP, CUP_FRAMES, FRESH, GET_CHANGE, TEXTS, Game, dice_frames, difference, dice_squares, pile_place,
-                  settings, shows, table)
+from game import FRESH, GET_CHANGE, TEXTS, Game, dice_frames, difference, dice_squares, table
 from launch import launch
-from seen import opens_with
+from seen import in_hand, in_shake, kept, minimised_and_back, opens_with, under_a_menu
 
 VIEW = (0, 0, 600, 370)  # the text, without its scroll bar
 
@@ -41,16 +40,12 @@ class Windows(unittest.TestCase):
         self.game.question()
         launch(self.desk).end_session()
         self.assertEqual(self.game.ended(), 0)
-        stored = settings(self.desk)
-        self.assertEqual([stored[f"Stash{d}"] for d in range(3)], ["12", "12", "10"])
+        self.assertEqual(kept(self.desk), [12, 12, 10])
 
     def test_a_menu_that_is_open_holds_up_a_throw_and_no_more(self):
         self.game.play()
-        self.game.bet(2, 9, 0)
-        self.game.click(CUP)
-        wait_until("the shake", lambda: shows(self.game.canvas(), "CupCentre", CUP_FRAMES["CupCentre"]))
-        self.desk.key("Alt_L", "g")
-        opened = wait_until("the menu", lambda: self.game.other_window(menu=True))
+        in_shake(self.game)
+        opened = under_a_menu(self.game)
         self.desk.key("Escape")
         self.desk.key("Escape")
         wait_until("the menu to close", lambda: not opened.is_shown())
@@ -60,27 +55,19 @@ class Windows(unittest.TestCase):
     def test_a_piece_in_the_hand_goes_home_where_the_mouse_is_taken_away(self):
         self.game.play()
 
-        def minimise():
-            self.game.window.ask_manager("WM_CHANGE_STATE", 3)
-            wait_until("the window to go", lambda: not self.game.window.is_shown())
-            self.game.window.ask_manager("_NET_ACTIVE_WINDOW", 2)
-            wait_until("the window to come back", self.game.window.is_shown)
-
-        def open_menu():
-            self.desk.key("Alt_L", "g")
-            wait_until("the menu", lambda: self.game.other_window(menu=True))
+        def open_menu(game):
+            under_a_menu(game)
             self.desk.key("Escape")
             self.desk.key("Escape")
 
-        def another_program():
+        def another_program(_):
             self.addCleanup(self.desk.take_keyboard().destroy)
 
         # At last another program has the keyboard.
-        for taken in (open_menu, minimise, another_program):
+        for taken in (open_menu, minimised_and_back, another_program):
             with self.subTest(taken.__name__):
-                self.game.drag(pile_place(0, 12), (300, 20))
-                wait_until("the piece in the hand", lambda: shows(self.game.canvas(), "TenPound", (300, 20)))
-                taken()
+                in_hand(self.game)
+                taken(self.game)
                 wait_until("the piece at home", lambda: opens_with(self.game.canvas(), FRESH))
                 self.desk.release()
 

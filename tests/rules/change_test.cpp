@@ -1,8 +1,6 @@
 // "Get Change": when it is on offer, and the exchange.
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "tests/simulated/ledger.h"
 #include "tests/simulated/recorder.h"
 
@@ -11,7 +9,6 @@ namespace {
 using simulated::AtTable;
 using simulated::Ledger;
 using simulated::Lines;
-using simulated::OnSquare;
 using Counts = std::array<std::int64_t, 3>;
 
 TEST(Change, BreaksDownFromTheTopClickByClick) {
@@ -67,67 +64,6 @@ TEST(Change, PieceByPiece) {
                                    "1.750 Money(46)=in its pile", "1.750 total=£12",  //
                                    "2.000 Money(47)=in its pile", "2.000 total=£13",  //
                                    "2.250 new coin=live"}));
-}
-
-TEST(Change, SecondClickRunsInsideTheFirst) {
-  for (int rest = 1; rest <= 9; ++rest) {
-    AtTable play({4, 1, 2});
-    const Ledger ledger(play);
-    play.desktop.InRest(rest, [&] { play.ClickChange(); });
-    ASSERT_TRUE(play.ClickChange());
-    EXPECT_EQ(play.money().MoneyCount, (Counts{2, 3, 12})) << rest;
-    // The rest of the wait that was broken into runs out meanwhile.
-    EXPECT_NEAR(play.desktop.Clock(), 2 * 2.25 - 0.125, 1e-9);
-  }
-}
-
-TEST(Change, PiecesAndCupWaitForItsEnd) {
-  AtTable play({1, 1, 3});
-  const Ledger ledger(play);
-  // The left button is down on the cup before the exchange starts from the keyboard.
-  play.desktop.Press(45, 80);
-  play.desktop.SetFocus(play.table(), play.table().Command1);
-  play.desktop.InRest(1, [&] { play.desktop.Release(45, 80); });
-  int tried = 0;
-  for (int rest = 3; rest <= 17; rest += 2)
-    play.desktop.InRest(rest, [&] {
-      ++tried;
-      ASSERT_TRUE(play.Press(20) && play.Move(OnSquare(0)));
-      EXPECT_EQ(play.desktop.InHand(), nullptr);
-      ASSERT_TRUE(play.Release(OnSquare(0)) && play.Drag(41, OnSquare(3)) && play.ThrowCup());
-    });
-  ASSERT_TRUE(play.Do([&] { play.desktop.Space(); }));
-  EXPECT_EQ(tried, 8);
-  EXPECT_EQ(play.desktop.drawn, 3);
-  EXPECT_EQ(play.money().MoneyCount, (Counts{0, 2, 8}));
-  ASSERT_TRUE(play.Drag(41, OnSquare(3)));
-  EXPECT_EQ(play.table().BetValue[3], 1);
-}
-
-TEST(Change, WhoeverLeavesInTheMiddleOfItKeepsItsOutcome) {
-  constexpr int kNever = 1000;
-  // Clicks at some rests, each inside the exchange before; then the frame is closed at one rest after the other.
-  const auto play = [](const std::set<int>& clicks, int closing, bool& ended) {
-    AtTable run;
-    for (const int rest : clicks)
-      if (rest < closing) run.desktop.InRest(rest, [&run] { run.ClickChange(); });
-    run.desktop.InRest(closing, [&run] { run.Do([&run] { run.desktop.CloseFrame(); }); });
-    run.ClickChange();
-    ended = run.ended;
-    return ended ? simulated::StashOf(run.store) : run.money().MoneyCount;
-  };
-  for (const std::set<int>& clicks :
-       {std::set<int>{}, {2}, {5, 8}, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, {9, 14, 20}}) {
-    bool ended = true;
-    int closing = 1;
-    for (; ended; ++closing) {
-      std::set<int> made(clicks.begin(), clicks.lower_bound(closing));
-      const Counts kept = play(made, closing, ended);
-      bool left = false;
-      EXPECT_EQ(kept, play(made, kNever, left)) << made.size() << " clicks, left at rest " << closing;
-    }
-    EXPECT_GT(closing, 9);
-  }
 }
 
 }  // namespace

@@ -64,32 +64,6 @@ TEST_F(Drag, EndsOnTheSquareUnderThePointerOrAtHome) {
     }
 }
 
-TEST_F(Drag, SeatsAPieceInsideTheUsableSquare) {
-  struct Row {
-    int piece;
-    Spot corner;  ///< where the piece's corner is let go
-    Spot grip;    ///< of the pointer in the piece
-    int square;
-    Spot seat;
-  };
-  const Row rows[] = {
-      {kNote, {300, 140}, {30, 20}, 3, {318, 156}},  // from above and from the left
-      {kNote, {380, 240}, {4, 4}, 3, {359, 217}},    // from below and from the right
-      {kNote, {330, 170}, {4, 4}, 3, {330, 170}},    // inside
-      {kFive, {3, 230}, {5, 5}, 0, {6, 220}},        //
-      {kCoin, {95, 237}, {10, 10}, 0, {86, 228}},    // in the strip that the caption covers
-      {kNote, {80, 170}, {40, 10}, 1, {110, 170}},   // mostly over the neighbour
-  };
-  for (const auto& [piece, corner, grip, square, seat] : rows) {
-    const Spot from{table.HomeLeft[piece] + grip.x, table.HomeTop[piece] + grip.y};
-    play.desktop.Drag(from.x, from.y, corner.x + grip.x, corner.y + grip.y);
-    EXPECT_EQ(Listed(square), std::vector{piece});
-    EXPECT_EQ(table.Money[piece].Left, seat.x);
-    EXPECT_EQ(table.Money[piece].Top, seat.y);
-    ASSERT_TRUE(play.Drag(piece, kGap));
-  }
-}
-
 TEST(Offsets, RoundHalfToEvenAndFallTowardsZero) {
   const std::pair<float, float> offsets[] = {{14.4F, 0}, {14.5F, 0},   {14.6F, 1},   {29.5F, 2},   {44.5F, 2}, {45, 3},
                                              {-15, -1},  {-29.5F, -2}, {-44.5F, -2}, {-45.5F, -3}, {899, 59}};

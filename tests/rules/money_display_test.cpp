@@ -30,24 +30,6 @@ auto Layer(simulated::Play& play, const desktop::Element& element) {
   return std::ranges::find(play.table().Graphics(), &element) - play.table().Graphics().begin();
 }
 
-TEST(Piles, ShowTheirCountFromTheLeftUpToTwenty) {
-  struct Row {
-    std::array<std::int64_t, 3> counts;
-    std::array<int, 3> shown;
-    std::array<const char*, 4> labels;
-  };
-  const Row rows[] = {
-      {{13, 12, 10}, {13, 12, 10}, {"£130", "£60", "£10", "£200"}},
-      {{20, 21, 0}, {20, 20, 0}, {"£200", "£105", "£0", "£305"}},
-      {{25, 1, 1234567}, {20, 1, 20}, {"£250", "£5", "£1234567", "£1234822"}},
-  };
-  for (const auto& row : rows) {
-    AtTable play(row.counts);
-    for (int d = 0; d < 3; ++d) EXPECT_EQ(Shown(play, d), FirstSlots(row.shown[d]));
-    for (int i = 0; i < 4; ++i) EXPECT_EQ(play.table().Label3[i].Caption, row.labels[i]);
-  }
-}
-
 TEST(Piles, GapsAndSurplusWaitForTheNextRedraw) {
   AtTable play({27, 0, 1});
   const simulated::Ledger ledger(play);

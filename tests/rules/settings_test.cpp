@@ -11,27 +11,15 @@ using Counts = std::array<std::int64_t, 3>;
 
 const std::string kAt = "Thistle and Lantern/Settings/";
 
+// What else a text can say the corpus of the fuzzer holds.
 TEST(Settings, CountsAreReadLeniently) {
-  const std::vector<std::pair<std::int64_t, std::vector<std::string>>> rows{
-      {0,
-       {"", "   ", "abc", "-3", ".9", "nan", "inf", "-inf", "+-4", "0x10", "1e400", "1e-400", "- 5", "+",
-        "9007199254740993e1", "1111111111222222222233333333334444444444"}},
-      {1, {"1e", "1,5"}},
-      {2, {"2.7"}},
-      {7, {"  7", "007", "\t\n7", "7 9", "+7"}},
-      {10, {"1e1"}},
-      {12, {"12abc"}},
-      {1234567890, {"1234567890"}},
-      {9007199254740992, {"9007199254740992"}}};
-  for (const auto& [count, texts] : rows)
-    for (const auto& text : texts) {
-      Store store{{kAt + "Stash0", text}};
-      Play play(store);
-      play.desktop.answers = {true};
-      ASSERT_TRUE(play.StartAtTable());
-      EXPECT_EQ(play.desktop.questions.size(), count == 0 ? 0U : 1U) << '"' << text << '"';
-      EXPECT_EQ(play.money().MoneyCount, count == 0 ? (Counts{13, 12, 10}) : (Counts{count, 0, 0}));
-    }
+  for (const auto& [text, count] : {std::pair{"-3", 0}, {"nan", 0}, {"\t7", 7}, {"12abc", 12}, {"2.7", 2}}) {
+    Store store{{kAt + "Stash0", text}};
+    Play play(store);
+    play.desktop.answers = {true};
+    ASSERT_TRUE(play.StartAtTable());
+    EXPECT_EQ(play.money().MoneyCount, count == 0 ? (Counts{13, 12, 10}) : (Counts{count, 0, 0})) << text;
+  }
 }
 
 TEST(Settings, AreReadAndWrittenInTheirOrder) {

@@ -38,20 +38,15 @@ TEST(Menu, AsksBeforeItActs) {
   const std::pair<std::string, std::string> rows[] = {
       {"mnuNewGame", "Are you sure you want to start again ?"},
       {"mnuExit", "Are you sure you want to leave Thistle and Lantern  ?"}};
-  for (const auto& [entry, question] : rows)
-    for (const bool yes : {false, true}) {
-      AtTable play({1, 2, 3});
-      ASSERT_TRUE(play.Bet(0, 0));
-      play.desktop.answers = {yes};
-      play.Do([&] { play.desktop.Menu(entry); });
-      EXPECT_EQ(play.desktop.questions.back().what, question);
-      EXPECT_EQ(play.desktop.titles.back(), "Thistle and Lantern");
-      EXPECT_EQ(play.desktop.questions.size(), 2U);
-      EXPECT_EQ(play.ended, yes && entry == "mnuExit");
-      const bool fresh = yes && !play.ended;
-      EXPECT_EQ(play.money().MoneyCount, fresh ? (Counts{13, 12, 10}) : (Counts{0, 2, 3}));
-      EXPECT_EQ(play.table().BetValue[0], fresh ? 0 : 10);
-    }
+  for (const auto& [entry, question] : rows) {
+    AtTable play({1, 2, 3});
+    ASSERT_TRUE(play.Bet(0, 0));
+    play.desktop.answers = {false};
+    ASSERT_TRUE(play.Do([&] { play.desktop.Menu(entry); }));
+    EXPECT_EQ(play.desktop.questions.back().what, question);
+    EXPECT_EQ(play.desktop.titles.back(), "Thistle and Lantern");
+    EXPECT_EQ(play.table().BetValue[0], 10);
+  }
 }
 
 TEST(Menu, NewGameOpensTheTableOverTheOpeningForm) {

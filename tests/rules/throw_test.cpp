@@ -37,15 +37,6 @@ TEST(Throw, CupAndSounds) {
   EXPECT_NEAR(play.desktop.Clock(), 3.22, 1e-9);
 }
 
-TEST(Throw, SoundTurnedOffInMidShakeIsOffAtOnce) {
-  AtTable play;
-  play.desktop.sounds.clear();
-  play.desktop.InRest(3, [&] { play.money().SoundOn = false; });
-  ASSERT_TRUE(play.ThrowCup());
-  ASSERT_EQ(play.desktop.sounds.size(), 1U);
-  EXPECT_EQ(play.desktop.sounds[0].what, "SHAKEDICE");
-}
-
 TEST(Throw, EachDieRollsItsOwnWay) {
   const Deal deals[] = {
       {{5, 0, 3}, {1, 1, 1}, 6},  {{5, 0, 3}, {2, 1, 1}, 8},  {{4, 1, 2}, {1, 2, 1}, 9},  {{0, 0, 0}, {2, 2, 1}, 9},

@@ -88,19 +88,6 @@ TEST(Money, GoneAndRefusedEndsTheRunWithNothingLeft) {
   EXPECT_EQ(next.money().MoneyCount, (Counts{13, 12, 10}));
 }
 
-TEST(Money, NoQuestionWhileAnyIsLeftOrAllIsStillStaked) {
-  AtTable play({1, 0, 3});
-  play.desktop.questions.clear();
-  ASSERT_TRUE(LoseAll(play));
-  // The last note goes onto the mat, and comes back doubled.
-  ASSERT_TRUE(play.Bet(0, 2));
-  EXPECT_EQ(play.money().MoneyValue[3], 0);
-  play.DealThrow(2, 0, 0);
-  ASSERT_TRUE(play.ThrowCup());
-  EXPECT_TRUE(play.desktop.questions.empty());
-  EXPECT_EQ(play.money().MoneyCount, (Counts{2, 0, 0}));
-}
-
 TEST(Offer, OfEarlierMoney) {
   for (const bool taken : {true, false}) {
     simulated::Store store = simulated::Stashed(25, 3, 7);
