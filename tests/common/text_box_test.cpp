@@ -23,27 +23,23 @@ std::string Words(const std::vector<TextLine>& lines) {
 
 const bench::Type kType;
 
-std::string Laid(std::string caption, Align alignment) {
-  desktop::Element label = bench::Laid(Kind::Label, 100, 50, 80, 30, std::move(caption));
-  label.Alignment = alignment;
-  return Words(LinesOf(label, kType));
-}
-
-TEST(TextBox, ALineStandsAtTheTopAsItIsAligned) {
-  EXPECT_EQ(Laid("abc", Align::Left), "100,50 abc|");
-  EXPECT_EQ(Laid("abc", Align::Right), "150,50 abc|");
-  EXPECT_EQ(Laid("abc", Align::Centre), "125,50 abc|");
-  EXPECT_EQ(Laid("a\r\n\r\nb", Align::Left), "100,50 a|100,74 |100,98 b|");
-}
-
-TEST(TextBox, ALongTextIsBrokenAtBlanksAndALongWordGrowsOutOfTheBox) {
-  EXPECT_EQ(Laid("one two", Align::Left), "100,50 one two|");
-  EXPECT_EQ(Laid("one two three", Align::Right), "110,50 one two|130,74 three|");
-  EXPECT_EQ(Laid("one twotwotwotwo", Align::Left), "100,50 one|100,74 twotwotwotwo|");
-  EXPECT_EQ(Laid("a b c d e f g h", Align::Centre), "105,50 a b c d|105,74 e f g h|");
-  EXPECT_EQ(Laid("£10000000000", Align::Right), "50,50 £10000000000|") << "to the left";
-  EXPECT_EQ(Laid("0123456789", Align::Left), "100,50 0123456789|") << "to the right";
-  EXPECT_EQ(Laid("0123456789", Align::Centre), "90,50 0123456789|") << "to both sides";
+TEST(TextBox, ATextIsAlignedBrokenAtBlanksAndGrowsOutOfTheBox) {
+  const std::tuple<const char*, Align, const char*> rows[] = {
+      {"abc", Align::Left, "100,50 abc|"},
+      {"abc", Align::Right, "150,50 abc|"},
+      {"abc", Align::Centre, "125,50 abc|"},
+      {"a\r\n\r\nb", Align::Left, "100,50 a|100,74 |100,98 b|"},
+      {"one two three", Align::Right, "110,50 one two|130,74 three|"},
+      {"one twotwotwotwo", Align::Left, "100,50 one|100,74 twotwotwotwo|"},
+      {"a b c d e f g h", Align::Centre, "105,50 a b c d|105,74 e f g h|"},
+      {"£10000000000", Align::Right, "50,50 £10000000000|"},
+      {"0123456789", Align::Left, "100,50 0123456789|"},
+      {"0123456789", Align::Centre, "90,50 0123456789|"}};
+  for (const auto& [caption, alignment, lines] : rows) {
+    desktop::Element label = bench::Laid(Kind::Label, 100, 50, 80, 30, caption);
+    label.Alignment = alignment;
+    EXPECT_EQ(Words(LinesOf(label, kType)), lines);
+  }
 }
 
 TEST(TextBox, ACaptionStandsInTheMiddleWhateverEmptyLinesAreAroundIt) {

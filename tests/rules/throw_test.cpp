@@ -1,41 +1,19 @@
-// The course of a throw in time: cup, dice and sounds.
+// How the dice are drawn and roll.
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "tests/simulated/recorder.h"
+#include "tests/simulated/play.h"
 
 namespace {
 
 using simulated::AtTable;
-using simulated::Lines;
 
 struct Deal {
   std::array<int, 3> groups;  ///< on which each die starts
   std::array<int, 3> spins;   ///< groups by which each die turns
   int lastTick;
 };
-
-void DealDice(simulated::Play& play, const Deal& deal) {
-  for (const int group : deal.groups) play.desktop.chance.push_back(simulated::GroupDraw(group));
-  for (const int spin : deal.spins) play.desktop.chance.push_back(simulated::SpinDraw(spin));
-}
-
-TEST(Throw, CupAndSounds) {
-  AtTable play;
-  simulated::Recorder recorder(play);
-  recorder.WatchCup();
-  DealDice(play, {{0, 0, 0}, {1, 1, 1}, 6});
-  recorder.Start();
-  ASSERT_TRUE(play.ThrowCup());
-  EXPECT_EQ(recorder.lines,
-            (Lines{"0.000 cup=CupCentre", "0.000 SHAKEDICE",  //
-                   "0.700 cup=CupRight", "0.860 cup=CupLeft", "1.020 cup=CupRight", "1.180 cup=CupLeft",
-                   "1.340 cup=CupRight", "1.500 cup=CupLeft", "1.660 cup=CupRight", "1.820 cup=CupLeft",
-                   "1.980 cup=CupRight", "2.140 cup=CupLeft", "2.300 cup=CupRight", "2.460 cup=CupLeft",
-                   "2.620 cup=CupThrow", "2.920 cup=CupStanding", "2.920 ROLLDICE", "3.170 ROLLDICEEND"}));
-  EXPECT_NEAR(play.desktop.Clock(), 3.22, 1e-9);
-}
 
 TEST(Throw, EachDieRollsItsOwnWay) {
   const Deal deals[] = {
@@ -45,7 +23,8 @@ TEST(Throw, EachDieRollsItsOwnWay) {
   for (const auto& deal : deals) {
     AtTable play;
     const auto& table = play.table();
-    DealDice(play, deal);
+    for (const int group : deal.groups) play.desktop.chance.push_back(simulated::GroupDraw(group));
+    for (const int spin : deal.spins) play.desktop.chance.push_back(simulated::SpinDraw(spin));
     play.desktop.afterEvent = [&] {
       const double now = play.desktop.Clock();
       if (play.desktop.Waits() == 0) return;

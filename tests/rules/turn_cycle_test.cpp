@@ -27,6 +27,7 @@ TEST(Turn, FromPressToNextTurn) {
   recorder.WatchTotal();
   recorder.WatchPayouts();
   recorder.WatchControls();
+  recorder.WatchCup();
   play.DealThrow(0, 0, 3);
   recorder.Start();
   ASSERT_TRUE(play.Press(12));
@@ -37,11 +38,38 @@ TEST(Turn, FromPressToNextTurn) {
                                    "0.000 Instruction(1)=shown"}));
   recorder.Start();
   ASSERT_TRUE(play.ThrowCup());
-  EXPECT_EQ(recorder.lines, (Lines{"0.000 Instruction(0)=hidden", "0.000 Instruction(1)=hidden", "0.000 cup=dead",
-                                   "0.000 money=dead", "0.000 SHAKEDICE", "2.920 ROLLDICE", "3.170 ROLLDICEEND",
-                                   "3.220 Label1(3)=WIN £10", "4.220 Payout(45)=TenPound", "4.220 ELEVATOR",
-                                   "4.970 total=£200", "5.470 Label1(3)=", "5.470 total=£210", "5.470 Payout(45)=gone",
-                                   "5.470 Instruction(0)=shown", "5.470 change=shown", "5.470 money=live"}));
+  EXPECT_EQ(recorder.lines, (Lines{"0.000 Instruction(0)=hidden",
+                                   "0.000 Instruction(1)=hidden",
+                                   "0.000 cup=dead",
+                                   "0.000 money=dead",
+                                   "0.000 cup=CupCentre",
+                                   "0.000 SHAKEDICE",
+                                   "0.700 cup=CupRight",
+                                   "0.860 cup=CupLeft",
+                                   "1.020 cup=CupRight",
+                                   "1.180 cup=CupLeft",
+                                   "1.340 cup=CupRight",
+                                   "1.500 cup=CupLeft",
+                                   "1.660 cup=CupRight",
+                                   "1.820 cup=CupLeft",
+                                   "1.980 cup=CupRight",
+                                   "2.140 cup=CupLeft",
+                                   "2.300 cup=CupRight",
+                                   "2.460 cup=CupLeft",
+                                   "2.620 cup=CupThrow",
+                                   "2.920 cup=CupStanding",
+                                   "2.920 ROLLDICE",
+                                   "3.170 ROLLDICEEND",
+                                   "3.220 Label1(3)=WIN £10",
+                                   "4.220 Payout(45)=TenPound",
+                                   "4.220 ELEVATOR",
+                                   "4.970 total=£200",
+                                   "5.470 Label1(3)=",
+                                   "5.470 total=£210",
+                                   "5.470 Payout(45)=gone",
+                                   "5.470 Instruction(0)=shown",
+                                   "5.470 change=shown",
+                                   "5.470 money=live"}));
   EXPECT_EQ(play.table().DiceSquare, (std::array{0, 0, 3}));
 }
 

@@ -3,18 +3,16 @@
 #include <windows.h>
 
 #include <chrono>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include "desktop/building_blocks.h"
 #include "desktop/win32/win32_desktop.h"
+#include "tests/common/bench_form.h"
 
 namespace desktop::win32 {
 
 namespace {
 
-constexpr auto kTitle = "A Frame of the Test";
 constexpr ButtonLook kLook{};
 
 class OneButton : public Form {
@@ -42,21 +40,6 @@ class OneButton : public Form {
   Element button_;
 };
 
-class PlainFrame : public Frame {
- public:
-  PlainFrame() {
-    Caption = kTitle;
-    ClientWidth = 300;
-    ClientHeight = 200;
-    Menu = {{"Entry", "Entry", {}}};
-  }
-  void MenuClick(std::string_view name) override { chosen.emplace_back(name); }
-  void Resize() override {}
-  void Close() override {}
-
-  std::vector<std::string> chosen;
-};
-
 /// In pixels of the parent's inside.
 RECT PlaceOf(HWND window) {
   RECT place{};
@@ -70,6 +53,10 @@ bool operator==(const RECT& a, const RECT& b) { return EqualRect(&a, &b) != FALS
 class Win32DesktopTest : public testing::Test {
  protected:
   void SetUp() override {
+    frame_.Caption = "A Frame of the Test";
+    frame_.ClientWidth = 300;
+    frame_.ClientHeight = 200;
+    frame_.Menu = {{"Entry", "Entry", {}}};
     desktop_.ShowFrame(frame_);
     frame_.Open(form_);
     Settle();
@@ -80,7 +67,7 @@ class Win32DesktopTest : public testing::Test {
 
   void Settle() { desktop_.RunEventsUntil(desktop_.Clock() + 0.01); }
 
-  PlainFrame frame_;
+  bench::Frame frame_;
   OneButton form_{frame_};
   Win32Desktop desktop_;
   HWND window_ = nullptr;
@@ -109,7 +96,7 @@ TEST_F(Win32DesktopTest, ATitleBarThatIsHeldHoldsUpAWaitAndNoMore) {
   desktop_.RunEventsUntil(start + kHeld / 10);
   const double took = desktop_.Clock() - start;
   player.join();
-  EXPECT_EQ(frame_.chosen, std::vector<std::string>{"Entry"}) << "what came meanwhile is not lost";
+  EXPECT_NE(frame_.told.find("menu Entry; "), std::string::npos) << "what came meanwhile is not lost";
   EXPECT_GE(took, kHeld) << "was it held?";
   EXPECT_LT(took, 2 * kHeld);
   const double next = desktop_.Clock();
