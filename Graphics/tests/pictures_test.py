@@ -93,8 +93,6 @@ SPOILED_FILES = [
     ("OnePound@2x.png", Path.unlink, "missing"),
     ("FaceClub.png", lambda file: file.write_bytes(file.read_bytes() + bytes(9000)), "kB"),
     ("Wood.png", lambda file: Image.open(file).convert("RGB").save(file, "JPEG"), "JPEG"),
-    ("MatHeart@2x.png", lambda file: shutil.copy(ALL["MatSpade"].file(catalogue.PICTURES, 2), file),
-     "does not show what MatHeart.png shows"),
     ("ThistleLantern32@2x.png",
      lambda file: shutil.copy(ALL["Icon64"].file(catalogue.PICTURES, 1), file),
      "does not show what ThistleLantern32.png shows"),

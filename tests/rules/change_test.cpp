@@ -12,12 +12,8 @@ using simulated::Lines;
 using Counts = std::array<std::int64_t, 3>;
 
 TEST(Change, BreaksDownFromTheTopClickByClick) {
-  struct Row {
-    Counts after;
-    double seconds;
-  };
-  // The button is on offer before each click, and gone after the last.
-  const std::vector<std::vector<Row>> games{
+  // What each click makes of the money, and in how many seconds. The button is on offer before it, and gone at last.
+  const std::vector<std::vector<std::pair<Counts, double>>> games{
       {{{11, 14, 20}, 0}, {{10, 16, 20}, 0.75}, {{9, 18, 20}, 0.75}, {{8, 20, 20}, 0.75}},
       {{{1, 0, 3}, 0}, {{0, 1, 8}, 2.25}, {{0, 0, 13}, 1.5}},
       {{{2, 19, 19}, 0}, {{1, 20, 24}, 2.25}},
@@ -28,14 +24,14 @@ TEST(Change, BreaksDownFromTheTopClickByClick) {
       {{{0, 1, 20}, 0}},
   };
   for (const auto& game : games) {
-    AtTable play(game[0].after);
+    AtTable play(game[0].first);
     const Ledger ledger(play);
     for (std::size_t click = 1; click < game.size(); ++click) {
       ASSERT_TRUE(play.table().Command1.Visible);
       const double start = play.desktop.Clock();
       ASSERT_TRUE(play.ClickChange());
-      EXPECT_EQ(play.money().MoneyCount, game[click].after);
-      EXPECT_NEAR(play.desktop.Clock() - start, game[click].seconds, 1e-9);
+      EXPECT_EQ(play.money().MoneyCount, game[click].first);
+      EXPECT_NEAR(play.desktop.Clock() - start, game[click].second, 1e-9);
     }
     EXPECT_FALSE(play.table().Command1.Visible);
   }
@@ -59,6 +55,20 @@ TEST(Change, PieceByPiece) {
                                    "1.750 Money(46)=in its pile", "1.750 total=£12",  //
                                    "2.000 Money(47)=in its pile", "2.000 total=£13",  //
                                    "2.250 new coin=live"}));
+}
+
+TEST(Change, WhoeverLeavesInTheMiddleOfItKeepsItsOutcome) {
+  // Clicks at the first rests from one on, each inside the exchange before; then the frame is closed, or it is not.
+  const auto play = [](int first, int last, bool close) {
+    AtTable run;
+    for (int rest = first; rest <= last; ++rest) run.desktop.InRest(rest, [&run] { run.ClickChange(); });
+    if (close) run.desktop.InRest(last + 1, [&run] { run.Do([&run] { run.desktop.CloseFrame(); }); });
+    run.ClickChange();
+    return close ? simulated::StashOf(run.store) : run.money().MoneyCount;
+  };
+  for (int first = 1; first <= 8; ++first)
+    for (int last = first - 1; last <= 12; ++last)
+      EXPECT_EQ(play(first, last, true), play(first, last, false)) << first << " to " << last;
 }
 
 }  // namespace

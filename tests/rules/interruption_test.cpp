@@ -57,62 +57,46 @@ auto Seen(Play& play) {
   return seen;
 }
 
-/// What a player chooses in the middle of something that waits, and how it comes out.
-class Interruption : public testing::Test {
- protected:
-  /// Has the player choose in that wait. True where the run goes on.
-  bool Interrupt(AtTable& play, Action action, int rest, const std::function<void()>& choose) {
-    play.desktop.InRest(rest, [&] {
-      play.desktop.answers = {true};
-      piles = play.money().MoneyCount;
-      pounds = play.money().MoneyValue[3];
-      chosen = play.desktop.Clock();
-      sounds = play.desktop.sounds.size();
-      choose();
-    });
-    const bool goesOn = Act(play, action);
-    EXPECT_EQ(play.desktop.Clock(), chosen);
-    return goesOn;
-  }
-
-  Counts piles{};
-  std::int64_t pounds = 0;
-  double chosen = -1;
-  std::size_t sounds = 0;
-};
-
-TEST_F(Interruption, NewGameStartsAtOnce) {
+/// As after any New Game; and a turn runs its whole course.
+void ExpectFreshGame(AtTable& play) {
   AtTable fresh;
-  InEachWait([&](AtTable& play, Action action, int rest) {
-    ASSERT_TRUE(Interrupt(play, action, rest, [&] { play.desktop.Menu("mnuNewGame"); }));
-    EXPECT_EQ(play.desktop.sounds.size(), sounds);
-    EXPECT_EQ(play.desktop.questions.size(), pounds == 0 ? 0U : 1U);
-    EXPECT_EQ(play.money().MoneyCount, (Counts{13, 12, 10}));
-    EXPECT_TRUE(Seen(play) == Seen(fresh));
-    EXPECT_EQ(play.table().CupStanding.Enabled, action == Action::Exchange);  // which leaves the cup alone
-
-    // And a turn of the new game runs its whole course.
-    const simulated::Ledger ledger(play);
-    play.desktop.chance.clear();
-    play.DealThrow(4, 4, 0);
-    ASSERT_TRUE(play.Drag(12, simulated::OnSquare(4)) && play.ThrowCup());
-    EXPECT_NEAR(play.desktop.Clock() - chosen, 3.22 + 1 + 2 * 0.25 + 3 * 0.5, 1e-9);
-    EXPECT_EQ(ledger.pounds(), 220);
-  });
+  EXPECT_EQ(play.money().MoneyCount, (Counts{13, 12, 10}));
+  EXPECT_TRUE(Seen(play) == Seen(fresh));
+  const simulated::Ledger ledger(play);
+  const double start = play.desktop.Clock();
+  play.desktop.chance.clear();
+  play.DealThrow(4, 4, 0);
+  ASSERT_TRUE(play.Drag(12, simulated::OnSquare(4)) && play.ThrowCup());
+  EXPECT_NEAR(play.desktop.Clock() - start, 3.22 + 1 + 2 * 0.25 + 3 * 0.5, 1e-9);
+  EXPECT_EQ(ledger.pounds(), 220);
 }
 
-TEST_F(Interruption, ExitAndCloseEndTheRunThereAndThen) {
-  for (const bool close : {false, true})
+TEST(Interruption, NewGameExitAndCloseHappenThereAndThen) {
+  const std::string newGame = "mnuNewGame", exit = "mnuExit", close = "close";
+  for (const auto& chosen : {newGame, exit, close})
     InEachWait([&](AtTable& play, Action action, int rest) {
-      EXPECT_FALSE(
-          Interrupt(play, action, rest, [&] { close ? play.desktop.CloseFrame() : play.desktop.Menu("mnuExit"); }));
-      // What lies on the mat is not stored. Exchanges are finished: after one click, two or three.
-      const Counts kept = simulated::StashOf(play.store);
-      const bool whole = kept == Counts{2, 2, 8} || kept == Counts{1, 3, 13} || kept == Counts{0, 4, 18};
-      EXPECT_TRUE(action == Action::Exchange ? whole : kept == piles);
+      Counts piles{};
+      double time = -1;
+      std::size_t sounds = 0, questions = 0;
+      play.desktop.InRest(rest, [&] {
+        piles = play.money().MoneyCount;
+        time = play.desktop.Clock();
+        sounds = play.desktop.sounds.size();
+        questions = chosen == close || play.money().MoneyValue[3] == 0 ? 0 : 1;
+        play.desktop.answers.assign(questions, true);
+        chosen == close ? play.desktop.CloseFrame() : play.desktop.Menu(chosen);
+      });
+      ASSERT_EQ(Act(play, action), chosen == newGame);
+      EXPECT_EQ(play.desktop.Clock(), time);
+      EXPECT_EQ(play.desktop.questions.size(), questions);
+      if (chosen == newGame) {
+        EXPECT_EQ(play.desktop.sounds.size(), sounds);
+        EXPECT_EQ(play.table().CupStanding.Enabled, action == Action::Exchange);  // which leaves the cup alone
+        return ExpectFreshGame(play);
+      }
       ASSERT_EQ(play.desktop.sounds.size(), sounds + 1);
       EXPECT_EQ(play.desktop.sounds.back().what, "DOORSHUT");
-      EXPECT_EQ(play.desktop.questions.size(), close || pounds == 0 ? 0U : 1U);
+      EXPECT_TRUE(action == Action::Exchange || simulated::StashOf(play.store) == piles) << "not what lies on the mat";
     });
 }
 

@@ -46,12 +46,7 @@ TEST(Settings, AreReadAndWrittenInTheirOrder) {
 }
 
 TEST(Settings, FramePlace) {
-  struct Row {
-    Store stored;
-    desktop::Area area;
-    float left, top;
-  };
-  const Row rows[] = {
+  const std::tuple<Store, desktop::Area, float, float> rows[] = {
       {{}, {0, 0, 19200, 12000}, 4800, 2612},  // half a twip is cut off
       {{}, {0, 0, 9000, 6000}, -300, -388},    // downwards, also below zero
       {{}, {-28800, -300, 28800, 16200}, -19200, 4412},
