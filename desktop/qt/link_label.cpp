@@ -2,9 +2,6 @@
 
 #include <QAccessibleWidget>
 
-#include "desktop/qt/canvas.h"
-#include "desktop/qt/text.h"
-
 namespace desktop::qt {
 
 namespace {
@@ -30,21 +27,9 @@ QAccessibleInterface* ReadingOf(const QString& className, QObject* object) {
 
 }  // namespace
 
-LinkLabel::LinkLabel(PictureStore& pictures, QWidget* parent) : QAbstractButton(parent), pictures_(pictures) {
+LinkLabel::LinkLabel(PictureStore& pictures, QWidget* parent) : PaintedControl(pictures, parent) {
   QAccessible::installFactory(ReadingOf);
   setCursor(Qt::PointingHandCursor);
-}
-
-void LinkLabel::Follow(const Element& record) {
-  if (record == record_) return;
-  record_ = record;
-  setAccessibleName(WithoutReturns(record.Caption));
-  update();
-}
-
-void LinkLabel::paintEvent(QPaintEvent*) {
-  QtCanvas canvas(*this, pictures_);
-  common::PaintLink(canvas, record_);
 }
 
 }  // namespace desktop::qt

@@ -3,24 +3,17 @@
 
 #include <QAbstractButton>
 
-#include "desktop/qt/control.h"
+#include "desktop/qt/painted_control.h"
 
 namespace desktop::qt {
 
-class LinkLabel : public QAbstractButton, public Control {
+class LinkLabel : public PaintedControl<QAbstractButton> {
   Q_OBJECT  // a screen reader's interface is looked up by the class's name
 
       public : LinkLabel(PictureStore& pictures, QWidget* parent);
 
-  QWidget& widget() override { return *this; }
-  void Follow(const Element& record) override;
-
  protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  PictureStore& pictures_;
-  Element record_;
+  void Paint(QtCanvas& canvas) override { common::PaintLink(canvas, record()); }
 };
 
 }  // namespace desktop::qt

@@ -3,23 +3,19 @@
 
 #include <QPushButton>
 
-#include "desktop/qt/control.h"
+#include "desktop/qt/painted_control.h"
 
 namespace desktop::qt {
 
-class WoodButton : public QPushButton, public Control {
+class WoodButton : public PaintedControl<QPushButton> {
  public:
-  WoodButton(PictureStore& pictures, QWidget* parent) : QPushButton(parent), pictures_(pictures) {}
-
-  QWidget& widget() override { return *this; }
-  void Follow(const Element& record) override;
+  using PaintedControl::PaintedControl;
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  PictureStore& pictures_;
-  Element record_;
+  void Paint(QtCanvas& canvas) override {
+    const common::ButtonState state{.pressed = isDown(), .focused = hasFocus(), .enabled = isEnabled()};
+    common::PaintButton(canvas, record(), state, canvas.scale());
+  }
 };
 
 }  // namespace desktop::qt
