@@ -92,7 +92,8 @@ Scroll Delivery::PressKey(Key key, bool held) {
 }
 
 void Delivery::MoveHand(Form& form, const Hand& hand) {
-  if (frame_.Children().empty() || frame_.Children().back() != &form || asking_ > 0 || HeldOn()) return;
+  const bool inFront = !frame_.Children().empty() && frame_.Children().back() == &form;
+  if (!inFront || frame_.State == WindowState::Minimised || asking_ > 0 || HeldOn()) return;
   Deliver([&] { pointer_.Press(form, kLeftButton, hand.FromX, hand.FromY); });
   if (!HeldOn()) return;
   Deliver([&] { pointer_.Move(kLeftButton, hand.ToX, hand.ToY); });

@@ -42,8 +42,8 @@ class Delivery {
   /// A key on the form in front. Returns how its text scrolls.
   Scroll PressKey(Key key, bool held);
   /// A hand moves on the form, by a key or for a screen reader: press, move and release arrive one after the other, as
-  /// the player's own would. Nothing happens where the player could not do so now: not on the form in front, the mouse
-  /// is held, or a question is open.
+  /// the player's own would. Nothing happens where the player could not do so now: not on the form in front, the
+  /// window is minimised, the mouse is held, or a question is open.
   void MoveHand(Form& form, const Hand& hand);
 
   // --- The window

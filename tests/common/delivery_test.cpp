@@ -126,6 +126,10 @@ TEST_F(Bench, AHandDoesWhatThePlayersOwnCouldDoNow) {
   });
   delivery.MoveHand(back, hand);
   EXPECT_EQ(back.told, "") << "another form is in front";
+  frame.State = WindowState::Minimised;
+  delivery.MoveHand(form, hand);
+  EXPECT_EQ(Told(), "");
+  frame.State = WindowState::Normal;
   delivery.Press(form, kLeftButton, 1, 1);
   Told();
   delivery.MoveHand(form, hand);
