@@ -70,6 +70,7 @@ void Delivery::PressControl(Form& form, Element& control) {
 }
 
 void Delivery::ClickControl(Form& form, Element& control) {
+  if (asking_ > 0) return;
   Deliver([&] {
     if (control.Reacts()) form.Click(control);
   });
@@ -107,6 +108,7 @@ void Delivery::OpenMenu() {
 }
 
 void Delivery::ChooseMenu(std::string_view name) {
+  if (asking_ > 0) return;
   Deliver([&] {
     pointer_.Lose();
     frame_.MenuClick(name);

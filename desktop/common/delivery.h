@@ -37,7 +37,7 @@ class Delivery {
 
   /// The mouse goes down on a control: its form comes to the front even if no click comes of it.
   void PressControl(Form& form, Element& control);
-  /// By mouse. Nothing happens where the control has gone or is dead by now.
+  /// By mouse, or for a screen reader. Nothing happens where the control has gone or is dead by now.
   void ClickControl(Form& form, Element& control);
   /// A key on the form in front. Returns how its text scrolls.
   Scroll PressKey(Key key, bool held);
@@ -72,7 +72,8 @@ class Delivery {
   Screen& screen_;
   Waits& waits_;
   Pointer pointer_;
-  int asking_ = 0;  ///< questions that are open
+  /// Questions that are open. The platform keeps mouse and keys from what lies beneath, but not a screen reader.
+  int asking_ = 0;
 };
 
 }  // namespace desktop::common

@@ -117,6 +117,8 @@ TEST_F(Bench, AHandDoesWhatThePlayersOwnCouldDoNow) {
   const auto inVain = [&] {
     delivery.MoveHand(form, hand);
     delivery.PressKey(Key::Escape, false);
+    delivery.ClickControl(form, form.plain);
+    delivery.ChooseMenu("About");
     return Told();
   };
   delivery.Ask([&] {
