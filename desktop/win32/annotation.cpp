@@ -18,24 +18,23 @@ Com<IAccPropServices> Notes() {
   });
 }
 
+void Annotate(HWND window, const MSAAPROPID& property, LONG value) {
+  const auto notes = Notes();
+  if (!notes) return;
+  VARIANT note{};
+  note.vt = VT_I4;
+  note.lVal = value;
+  notes->SetHwndProp(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, property, note);
+}
+
+// The system's name for how news are spoken, and one of its ways.
+constexpr GUID kLiveSetting{0xc12bcd8e, 0x2a8e, 0x4950, {0x8a, 0xe7, 0x36, 0x25, 0x11, 0x1d, 0x58, 0xeb}};
+constexpr LONG kPolite = 1;
+
 }  // namespace
 
-void AnnotateAsLink(HWND window) {
-  const auto notes = Notes();
-  if (!notes) return;
-  VARIANT role{};
-  role.vt = VT_I4;
-  role.lVal = ROLE_SYSTEM_LINK;
-  notes->SetHwndProp(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_ROLE, role);
-}
+void AnnotateAsLink(HWND window) { Annotate(window, PROPID_ACC_ROLE, ROLE_SYSTEM_LINK); }
 
-void Describe(HWND window, const std::wstring& words) {
-  // As its text, too: not everyone who reads a window reads the notes about it.
-  SetWindowTextW(window, words.c_str());
-  const auto notes = Notes();
-  if (!notes) return;
-  notes->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_DESCRIPTION, words.c_str());
-  NotifyWinEvent(EVENT_OBJECT_DESCRIPTIONCHANGE, window, OBJID_CLIENT, CHILDID_SELF);
-}
+void AnnotateAsNews(HWND window) { Annotate(window, kLiveSetting, kPolite); }
 
 }  // namespace desktop::win32

@@ -3,14 +3,12 @@
 
 #include <windows.h>
 
-#include <string>
-
 namespace desktop::win32 {
 
 /// The window is a link and no button.
 void AnnotateAsLink(HWND window);
 
-/// The window shows this, in words. Tells whoever listens that it has changed.
-void Describe(HWND window, const std::wstring& words);
+/// What the window says is spoken when it changes, once the reader has said what it is saying.
+void AnnotateAsNews(HWND window);
 
 }  // namespace desktop::win32

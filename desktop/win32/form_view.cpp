@@ -5,8 +5,6 @@
 #include <utility>
 
 #include "desktop/common/painting.h"
-#include "desktop/common/telling.h"
-#include "desktop/win32/annotation.h"
 #include "desktop/win32/input.h"
 #include "desktop/win32/text.h"
 
@@ -27,7 +25,8 @@ FormView::FormView(Form& form, common::Delivery& delivery, Materials& materials,
       materials_(materials),
       retire_(std::move(retire)),
       drawing_(form, materials.fonts) {
-  Create(nullptr, WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, WS_EX_CONTROLPARENT, {}, parent);
+  Create(Wide(form.AccessibleName).c_str(), WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, WS_EX_CONTROLPARENT, {},
+         parent);
   DecodePictures();
 }
 
@@ -46,11 +45,13 @@ void FormView::Follow() {
   FollowControls();
   FollowPointer();
   FollowMouse();
-  FollowDescription();
 }
 
 /// Always at once: where events come one upon the other, it would wait for a gap between them.
-void FormView::Draw(bool) { UpdateWindow(handle()); }
+void FormView::Draw(bool) {
+  UpdateWindow(handle());
+  if (audience_) audience_->Call();
+}
 
 void FormView::Show(bool shown) {
   if ((IsWindowVisible(handle()) != 0) != shown) ShowWindow(handle(), shown ? SW_SHOWNA : SW_HIDE);
@@ -109,14 +110,6 @@ void FormView::FollowMouse() {
   if (capturing_ && delivery_.HeldOn() != &form_ && std::exchange(capturing_, false)) ReleaseCapture();
 }
 
-void FormView::FollowDescription() {
-  if (!described_) return;
-  std::wstring words = Wide(common::InWords(form_));
-  if (words == description_) return;
-  description_ = std::move(words);
-  Describe(handle(), description_);
-}
-
 void FormView::Raise() { SetWindowPos(handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE); }
 
 void FormView::TakeKeyboard() {
@@ -127,6 +120,9 @@ void FormView::TakeKeyboard() {
 }
 
 void FormView::Retire() {
+  // Its form may be empty by now.
+  audience_.reset();
+  retired_ = true;
   SetWindowPos(handle(), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_HIDEWINDOW);
   retire_(this);
 }
@@ -167,6 +163,7 @@ LRESULT FormView::Handle(UINT message, WPARAM wide, LPARAM details) {
       return TRUE;
     case WM_SETFOCUS:
       if (common::FocusOf(form_)) TakeKeyboard();
+      if (audience_) audience_->NoteKeyboard();
       return 0;
     case WM_KEYDOWN:
       if (TakeKey(wide, details)) return 0;
@@ -175,13 +172,30 @@ LRESULT FormView::Handle(UINT message, WPARAM wide, LPARAM details) {
       Wheel(wide, details);
       return 0;
     case WM_GETOBJECT:
-      described_ = true;
-      FollowDescription();
-      break;
+      return Answer(wide, details);
+    case kTellMessage:
+      if (audience_) audience_->Tell();
+      return 0;
+    case kWishMessage:
+      GrantWish();
+      return 0;
     default:
       break;
   }
   return Default(message, wide, details);
+}
+
+LRESULT FormView::Answer(WPARAM flags, LPARAM object) {
+  if (retired_) return 0;
+  if (!audience_) {
+    audience_ = std::make_unique<Audience>(*this);
+    audience_->Call();
+  }
+  return static_cast<LONG>(object) == OBJID_CLIENT ? audience_->Answer(flags) : Default(WM_GETOBJECT, flags, object);
+}
+
+void FormView::GrantWish() {
+  if (const auto hand = audience_ ? audience_->TakeWish() : std::nullopt) delivery_.MoveHand(form_, *hand);
 }
 
 void FormView::Paint() {

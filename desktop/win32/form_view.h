@@ -7,6 +7,7 @@
 #include "desktop/common/delivery.h"
 #include "desktop/common/drawing.h"
 #include "desktop/common/views.h"
+#include "desktop/win32/audience.h"
 #include "desktop/win32/canvas.h"
 #include "desktop/win32/control.h"
 #include "desktop/win32/text_view.h"
@@ -31,6 +32,12 @@ class FormView : public Window, public common::View {
   /// The window has come to a screen of another scale.
   void Rescale();
 
+  const Form& form() const { return form_; }
+  const common::Scale& scale() const { return materials_.scale; }
+  HWND WindowOf(const Element& control) const { return controls_.at(&control).control->window(); }
+  /// From the form's inside to the view's corner, in device pixels.
+  common::Rect InView(const common::Rect& inside) const { return inside.Moved(Border(), Border()); }
+
  protected:
   LRESULT Handle(UINT message, WPARAM wide, LPARAM details) override;
 
@@ -47,7 +54,8 @@ class FormView : public Window, public common::View {
   void FollowControls();
   void FollowPointer();
   void FollowMouse();
-  void FollowDescription();
+  LRESULT Answer(WPARAM flags, LPARAM object);
+  void GrantWish();
   Standing& StandingOf(Element& element);
   void Paint();
   int Border() const { return materials_.scale.Device(form_.Border); }
@@ -69,8 +77,8 @@ class FormView : public Window, public common::View {
   common::Rect place_;      ///< in the frame, in device pixels
   bool capturing_ = false;  ///< the mouse is held for an element
   PointerShape shape_ = PointerShape::Default;
-  bool described_ = false;  ///< someone listens
-  std::wstring description_;
+  std::unique_ptr<Audience> audience_;  ///< none: nobody listens
+  bool retired_ = false;
 };
 
 }  // namespace desktop::win32
