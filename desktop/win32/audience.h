@@ -24,7 +24,7 @@ class Audience {
   Audience& operator=(const Audience&) = delete;
 
   /// What WM_GETOBJECT returns for the view's inside.
-  LRESULT Answer(WPARAM flags) const { return LresultFromObject(IID_IAccessible, flags, reading_.get()); }
+  LRESULT Answer(WPARAM flags) const { return LresultFromObject(__uuidof(IAccessible), flags, reading_.get()); }
   /// The picture shows something new: has Tell called soon, once for all that one hand has done at once.
   void Call();
   /// Tells what has changed since the last call: the stops' values, the keyboard's stop, and the news.

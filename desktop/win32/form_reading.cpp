@@ -11,7 +11,7 @@ namespace desktop::win32 {
 namespace {
 
 HRESULT Give(HWND window, IDispatch** object) {
-  return AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch,
+  return AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_WINDOW), __uuidof(IDispatch),
                                     reinterpret_cast<void**>(object));
 }
 

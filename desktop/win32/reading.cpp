@@ -5,7 +5,7 @@ namespace desktop::win32 {
 STDMETHODIMP Reading::QueryInterface(REFIID id, void** object) {
   if (!object) return E_POINTER;
   *object = nullptr;
-  if (id != IID_IUnknown && id != IID_IDispatch && id != IID_IAccessible) return E_NOINTERFACE;
+  if (id != __uuidof(IUnknown) && id != __uuidof(IDispatch) && id != __uuidof(IAccessible)) return E_NOINTERFACE;
   *object = static_cast<IAccessible*>(this);
   AddRef();
   return S_OK;

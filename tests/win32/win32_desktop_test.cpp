@@ -173,7 +173,7 @@ class Win32DesktopTest : public testing::Test {
 
   Com<IAccessible> Asked() const {
     return Made<IAccessible>([this](IAccessible** form) {
-      return AccessibleObjectFromWindow(view_, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+      return AccessibleObjectFromWindow(view_, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
                                         reinterpret_cast<void**>(form));
     });
   }
