@@ -208,6 +208,10 @@ TEST_F(Win32DesktopTest, AScreenReaderFindsStopsTextsAndControls) {
   EXPECT_EQ(Read(*form, 2), "Pile = 1, button, focusable: 1; Take one");
   EXPECT_EQ(Read(*form, 3), "Sum = 7, text, read only, invisible: 7");
   EXPECT_EQ(Read(*form, 4), "A word, text, read only");
+  VARIANT beside{};
+  form->accNavigate(NAVDIR_NEXT, Number(3), &beside);
+  EXPECT_EQ(beside.lVal, 4);
+  EXPECT_EQ(form->accNavigate(NAVDIR_NEXT, Number(4), &beside), S_FALSE);
 }
 
 TEST_F(Win32DesktopTest, AScreenReaderActsAndIsToldWhatComesOfIt) {
@@ -291,6 +295,11 @@ TEST_F(Win32DesktopTest, SizesAndPlacesFollowTheScreen) {
     EXPECT_TRUE(PlaceOf(view_) == (RECT{device(10), 0, device(10) + device(100), device(60)})) << dpi;
     RECT pile{};
     form->accLocation(&pile.left, &pile.top, &pile.right, &pile.bottom, Number(2));
+    VARIANT hit{};
+    form->accHitTest(pile.left, pile.top, &hit);
+    EXPECT_EQ(hit.lVal, 2);
+    form->accHitTest(pile.left - 1, pile.top, &hit);
+    EXPECT_EQ(hit.lVal, CHILDID_SELF);
     MapWindowPoints(nullptr, view_, reinterpret_cast<POINT*>(&pile), 1);
     EXPECT_TRUE(pile == (RECT{border + device(60), border + device(20), device(20), device(10)})) << dpi;
     EXPECT_TRUE(PlaceOf(button) == (RECT{border + device(10), border + device(20), border + device(10) + device(40),
