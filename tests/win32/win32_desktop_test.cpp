@@ -22,7 +22,7 @@ namespace {
 constexpr auto kTitle = "A Frame of the Test";
 constexpr ButtonLook kLook{};
 
-/// A button, a pile that a hand can take one from, a sum, and a word beside them.
+/// A button, a pile of one that a hand can take and put back, a sum, a cup, and a word beside them.
 class OneButton : public Form {
  public:
   explicit OneButton(Frame& frame) : Form("OneButton"), frame_(frame) {}
@@ -42,12 +42,12 @@ class OneButton : public Form {
 
   void MouseDown(Element& element, int, float, float) override { held = &element == &pile_; }
   void MouseUp(Element&, int, float x, float y) override {
-    if (x == 0 && y == 300) --left;
+    if (x == 0 && y == 300) left = 1 - left;
   }
 
   std::vector<Stop> Stops() const override {
     ++asked;
-    std::vector<Stop> stops(3);
+    std::vector<Stop> stops(4);
     stops[0].Control = &button_;
     stops[1].Name = "Pile";
     stops[1].Value = std::to_string(left);
@@ -55,11 +55,12 @@ class OneButton : public Form {
     stops[1].Top = 20;
     stops[1].Width = 20;
     stops[1].Height = 10;
-    if (left > 0) stops[1].Deeds.push_back({{Key::One}, "Take one", {60, 20, 60, 40}});
+    stops[1].Deeds.push_back({{Key::One}, left > 0 ? "Take it" : "Put it back", {60, 20, 60, 40}});
     stops[2].Name = "Sum";
     stops[2].Value = "7";
     stops[2].Visible = false;
     stops[2].OnlyRead = true;
+    stops[3].Name = "Cup";
     return stops;
   }
 
@@ -199,19 +200,20 @@ TEST_F(Win32DesktopTest, AScreenReaderFindsStopsTextsAndControls) {
   EXPECT_EQ(Read(*form, CHILDID_SELF), "The form, dialog, focusable, focused: One button. Left: 1.");
   LONG count = 0;
   form->get_accChildCount(&count);
-  EXPECT_EQ(count, 4);
+  EXPECT_EQ(count, 5);
   const auto button = Made<IDispatch>([&](IDispatch** child) { return form->get_accChild(Number(1), child); });
   HWND window = nullptr;
   ASSERT_TRUE(button);
   WindowFromAccessibleObject(static_cast<IAccessible*>(button.get()), &window);
   EXPECT_EQ(TextOf(window), "Its name") << "a stop with a window speaks for itself";
-  EXPECT_EQ(Read(*form, 2), "Pile = 1, button, focusable: 1; Take one");
+  EXPECT_EQ(Read(*form, 2), "Pile = 1, button, focusable: 1; Take it");
   EXPECT_EQ(Read(*form, 3), "Sum = 7, text, read only, invisible: 7");
-  EXPECT_EQ(Read(*form, 4), "A word, text, read only");
+  EXPECT_EQ(Read(*form, 4), "Cup, button, unavailable");
+  EXPECT_EQ(Read(*form, 5), "A word, text, read only");
   VARIANT beside{};
-  form->accNavigate(NAVDIR_NEXT, Number(3), &beside);
-  EXPECT_EQ(beside.lVal, 4);
-  EXPECT_EQ(form->accNavigate(NAVDIR_NEXT, Number(4), &beside), S_FALSE);
+  form->accNavigate(NAVDIR_NEXT, Number(4), &beside);
+  EXPECT_EQ(beside.lVal, 5);
+  EXPECT_EQ(form->accNavigate(NAVDIR_NEXT, Number(5), &beside), S_FALSE);
 }
 
 TEST_F(Win32DesktopTest, AScreenReaderActsAndIsToldWhatComesOfIt) {
@@ -232,8 +234,8 @@ TEST_F(Win32DesktopTest, AScreenReaderActsAndIsToldWhatComesOfIt) {
   EXPECT_TRUE(form_.held);
   EXPECT_EQ(form_.left, 0);
   EXPECT_EQ(TextOf(news), "Left: 0.");
-  EXPECT_EQ(Read(*form, 2), "Pile = 0, button, unavailable: 0");
-  EXPECT_EQ(form->accDoDefaultAction(Number(2)), DISP_E_MEMBERNOTFOUND);
+  EXPECT_EQ(Read(*form, 2), "Pile = 0, button, focusable: 0; Put it back");
+  EXPECT_EQ(form->accDoDefaultAction(Number(4)), DISP_E_MEMBERNOTFOUND);
   form_.left = 1;
   SetFocus(view_);
   SendMessageW(view_, WM_KEYDOWN, VK_TAB, 0);
