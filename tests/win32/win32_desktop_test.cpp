@@ -14,12 +14,12 @@
 #include "desktop/win32/handles.h"
 #include "desktop/win32/text.h"
 #include "desktop/win32/win32_desktop.h"
+#include "tests/common/bench_form.h"
 
 namespace desktop::win32 {
 
 namespace {
 
-constexpr auto kTitle = "A Frame of the Test";
 constexpr ButtonLook kLook{};
 
 /// A button, a pile of one that a hand can take and put back, a sum, a cup, and a word beside them.
@@ -64,9 +64,9 @@ class OneButton : public Form {
     return stops;
   }
 
-  std::vector<std::string> Sentences() const override {
+  std::vector<Sentence> Sentences() const override {
     ++asked;
-    return {"One button.", "Left: " + std::to_string(left) + "."};
+    return {{"One button."}, {"Left: " + std::to_string(left) + "."}};
   }
 
   mutable int asked = 0;
@@ -78,21 +78,6 @@ class OneButton : public Form {
   Element button_;
   Element pile_;
   Element word_;
-};
-
-class PlainFrame : public Frame {
- public:
-  PlainFrame() {
-    Caption = kTitle;
-    ClientWidth = 300;
-    ClientHeight = 200;
-    Menu = {{"Entry", "Entry", {}}};
-  }
-  void MenuClick(std::string_view name) override { chosen.emplace_back(name); }
-  void Resize() override {}
-  void Close() override {}
-
-  std::vector<std::string> chosen;
 };
 
 /// In pixels of the parent's inside.
@@ -164,6 +149,10 @@ void CALLBACK Note(HWINEVENTHOOK, DWORD event, HWND, LONG, LONG number, DWORD, D
 class Win32DesktopTest : public testing::Test {
  protected:
   void SetUp() override {
+    frame_.Caption = "A Frame of the Test";
+    frame_.ClientWidth = 300;
+    frame_.ClientHeight = 200;
+    frame_.Menu = {{"Entry", "Entry", {}}};
     desktop_.ShowFrame(frame_);
     frame_.Open(form_);
     Settle();
@@ -186,7 +175,7 @@ class Win32DesktopTest : public testing::Test {
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
   }
 
-  PlainFrame frame_;
+  bench::Frame frame_;
   OneButton form_{frame_};
   Win32Desktop desktop_;
   HWND window_ = nullptr;
@@ -267,7 +256,7 @@ TEST_F(Win32DesktopTest, ATitleBarThatIsHeldHoldsUpAWaitAndNoMore) {
   desktop_.RunEventsUntil(start + kHeld / 10);
   const double took = desktop_.Clock() - start;
   player.join();
-  EXPECT_EQ(frame_.chosen, std::vector<std::string>{"Entry"}) << "what came meanwhile is not lost";
+  EXPECT_NE(frame_.told.find("menu Entry; "), std::string::npos) << "what came meanwhile is not lost";
   EXPECT_GE(took, kHeld) << "was it held?";
   EXPECT_LT(took, 2 * kHeld);
   const double next = desktop_.Clock();
