@@ -145,11 +145,6 @@ LRESULT FormView::Handle(UINT message, WPARAM wide, LPARAM details) {
     return 0;
   }
   switch (message) {
-    case WM_PAINT:
-      Paint();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
     case WM_MOUSEMOVE:
       Move(HeldIn(wide), details);
       return 0;

@@ -39,6 +39,7 @@ class FormView : public Window, public common::View {
   common::Rect InView(const common::Rect& inside) const { return inside.Moved(Border(), Border()); }
 
  protected:
+  void Paint() override;
   LRESULT Handle(UINT message, WPARAM wide, LPARAM details) override;
 
  private:
@@ -57,7 +58,6 @@ class FormView : public Window, public common::View {
   LRESULT Answer(WPARAM flags, LPARAM object);
   void GrantWish();
   Standing& StandingOf(Element& element);
-  void Paint();
   int Border() const { return materials_.scale.Device(form_.Border); }
 
   void Press(int button, LPARAM point);

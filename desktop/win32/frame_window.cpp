@@ -126,7 +126,7 @@ void FrameWindow::Close() {
   delivery_.Close();
 }
 
-void FrameWindow::Paint() const {
+void FrameWindow::Paint() {
   PAINTSTRUCT paint{};
   const HDC context = BeginPaint(handle(), &paint);
   SetDCBrushColor(context, ToWindows(frame_.BackColor));
@@ -136,11 +136,6 @@ void FrameWindow::Paint() const {
 
 LRESULT FrameWindow::Handle(UINT message, WPARAM wide, LPARAM details) {
   switch (message) {
-    case WM_PAINT:
-      Paint();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
     case WM_SIZE:
       Fit();
       return 0;

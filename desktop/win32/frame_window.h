@@ -25,6 +25,7 @@ class FrameWindow : public Window {
   void Appear();
 
  protected:
+  void Paint() override;
   LRESULT Handle(UINT message, WPARAM wide, LPARAM details) override;
 
  private:
@@ -33,7 +34,6 @@ class FrameWindow : public Window {
   void StandAt(POINT place);
   common::WindowLook Look() const;
   POINT Place() const;
-  void Paint() const;
   void NotePlace();
   void Fit();
   void SnapBack();

@@ -143,11 +143,6 @@ void TextView::Wheel(int notches) {
 
 LRESULT TextView::Handle(UINT message, WPARAM wide, LPARAM details) {
   switch (message) {
-    case WM_PAINT:
-      Paint();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
     case WM_SIZE:
       LayOut();
       return 0;

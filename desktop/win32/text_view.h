@@ -27,11 +27,11 @@ class TextView : public Window, public Control {
   void Copy() const;
 
  protected:
+  void Paint() override;
   LRESULT Handle(UINT message, WPARAM wide, LPARAM details) override;
 
  private:
   void LayOut();
-  void Paint();
   void PaintLine(WindowCanvas& canvas, const common::DocumentLine& line) const;
   void ScrollTo(int top);
   void MoveBar(int action);

@@ -45,7 +45,11 @@ LRESULT CALLBACK Window::Receive(HWND handle, UINT message, WPARAM wide, LPARAM 
     SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(made->lpCreateParams));
   }
   auto* window = reinterpret_cast<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
-  return window ? window->Handle(message, wide, details) : DefWindowProcW(handle, message, wide, details);
+  if (!window) return DefWindowProcW(handle, message, wide, details);
+  if (message == WM_ERASEBKGND) return 1;
+  if (message != WM_PAINT) return window->Handle(message, wide, details);
+  window->Paint();
+  return 0;
 }
 
 }  // namespace desktop::win32

@@ -22,7 +22,9 @@ class Window {
   /// Makes the window, which asks Handle from now on: to be called in the body of the last constructor.
   void Create(const wchar_t* title, DWORD style, DWORD exStyle, const RECT& place, HWND parent);
 
-  /// Answers a message. What it has no use for goes on to Default.
+  /// The window has something to show: all of it, its ground, too.
+  virtual void Paint() = 0;
+  /// Answers any other message. What it has no use for goes on to Default.
   virtual LRESULT Handle(UINT message, WPARAM wide, LPARAM details) = 0;
   LRESULT Default(UINT message, WPARAM wide, LPARAM details) { return DefWindowProcW(handle_, message, wide, details); }
 
