@@ -33,12 +33,18 @@ class Reader:
         Atspi.init()
         Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)
         self.heard = []
+        self.visited = []  # what got the keyboard, by name
         self.listener = Atspi.EventListener.new(self._hear)
-        self.listener.register("object:state-changed:showing")
+        for change in ("showing", "focused"):
+            self.listener.register("object:state-changed:" + change)
 
     def _hear(self, event):
         try:
-            if event.detail1 and event.source.get_role() == Atspi.Role.NOTIFICATION:
+            if not event.detail1:
+                return
+            if event.type.endswith("focused"):
+                self.visited.append(event.source.get_name())
+            elif event.source.get_role() == Atspi.Role.NOTIFICATION:
                 self.heard.append(event.source.get_name())
         except GLib.Error:
             pass  # a form that has gone by now
@@ -142,6 +148,7 @@ class ByReader(unittest.TestCase):
         self.start(Stash0="3")
         self.reader.do("Play Game", "Press")
         self.reader.find("You Have £30 Left From a Previous Game\nWould You Like To Start With This Amount ?")
+        self.reader.wait_until("the keyboard on its answer", lambda: self.reader.visited[-1:] == ["Yes"])
         self.reader.do("Yes", "Press")
         self.reader.wait_for("Total: £30.")
 
