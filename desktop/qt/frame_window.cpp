@@ -16,13 +16,6 @@ namespace desktop::qt {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-// A window manager needs a moment to tell a maximised window's new state after its new size, and
-// another to carry out a resize.
-constexpr auto kBeforeSnap = 80ms;
-constexpr auto kBeforeSecondLook = 150ms;
-
 common::Size FromQt(QSize size) { return {size.width(), size.height()}; }
 QSize ToQt(common::Size size) { return {size.width, size.height}; }
 
@@ -70,11 +63,11 @@ common::Size FrameWindow::FixedSize() const {
 }
 
 common::WindowLook FrameWindow::Look() const {
-  // The window tells the truth; the widget may only believe that it has been resized.
+  // The widget's size is what the platform has told last. The window's may be a wish that was refused without a word.
   return {.shown = isVisible(),
           .minimised = isMinimized(),
           .maximised = isMaximized() || isFullScreen(),
-          .size = FromQt(windowHandle()->size())};
+          .size = FromQt(size())};
 }
 
 void FrameWindow::Appear() {
@@ -144,7 +137,7 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FrameWindow::NotePlace() {
-  if (!windowHandle() || !common::IsPlayersOwn(Look(), FixedSize())) return;
+  if (!windowHandle() || snapBack_.IsUnderWay() || !common::IsPlayersOwn(Look(), FixedSize())) return;
   const QPoint corner = frameGeometry().topLeft();
   frame_.Left = common::InTwips(corner.x());
   frame_.Top = common::InTwips(corner.y());
@@ -153,18 +146,17 @@ void FrameWindow::NotePlace() {
 void FrameWindow::Fit() {
   if (!windowHandle()) return;
   delivery_.Resize(common::StateOf(Look(), FixedSize()));
-  snapBack_.NoteChange();
-  snapTimer_.start(kBeforeSnap);
+  snapBack_.NoteChange(Look().size, FixedSize());
+  snapTimer_.start(snapBack_.Wait());
 }
 
 void FrameWindow::SnapBack() {
-  if (!snapBack_.Wishes(Look(), FixedSize(), FromQt(screen()->availableSize()))) return;
-  resize(ToQt(FixedSize()));
-  // Where the widget believes that it has the size already, only the window can be told.
+  if (!snapBack_.Wishes(Look(), FixedSize(), FromQt(screen()->availableSize()))) return NotePlace();
+  // Of the window, not of the widget, which would believe it at once, and is not asked twice for what it believes.
   windowHandle()->resize(ToQt(FixedSize()));
-  // A drag of the upper or left border has moved it, too.
-  move(common::OnScreen(frame_.Left), common::OnScreen(frame_.Top));
-  snapTimer_.start(kBeforeSecondLook);
+  // A drag of the upper or left border has moved it, too. This asks for the size once more in any case.
+  windowHandle()->setFramePosition({common::OnScreen(frame_.Left), common::OnScreen(frame_.Top)});
+  snapTimer_.start(snapBack_.Wait());
 }
 
 }  // namespace desktop::qt

@@ -13,11 +13,8 @@ namespace {
 
 constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
-// The look whether the size is right, and how long after a change it comes, in milliseconds. Who has changed it may
-// need a moment to tell the state, too, and another to carry out a wish.
+// The look whether the size is right.
 constexpr UINT_PTR kSnapTimer = 1;
-constexpr UINT kBeforeSnap = 80;
-constexpr UINT kBeforeSecondLook = 150;
 
 bool IsBorder(LRESULT part) { return part >= HTLEFT && part <= HTBOTTOMRIGHT; }
 
@@ -95,9 +92,11 @@ void FrameWindow::NotePlace() {
 void FrameWindow::Fit() {
   if (!appeared_) return;
   delivery_.Resize(common::StateOf(Look(), FixedSize()));
-  snapBack_.NoteChange();
-  SetTimer(handle(), kSnapTimer, kBeforeSnap, nullptr);
+  snapBack_.NoteChange(Look().size, FixedSize());
+  LookLater();
 }
+
+void FrameWindow::LookLater() { SetTimer(handle(), kSnapTimer, static_cast<UINT>(snapBack_.Wait().count()), nullptr); }
 
 void FrameWindow::SnapBack() {
   KillTimer(handle(), kSnapTimer);
@@ -106,7 +105,7 @@ void FrameWindow::SnapBack() {
   if (!snapBack_.Wishes(Look(), FixedSize(), kNoRoom)) return;
   // A drag of the upper or left border has moved it, too.
   StandAt(Place());
-  SetTimer(handle(), kSnapTimer, kBeforeSecondLook, nullptr);
+  LookLater();
 }
 
 void FrameWindow::Rescale(UINT dpi, const RECT& suggested) {

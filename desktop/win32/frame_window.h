@@ -36,6 +36,7 @@ class FrameWindow : public Window {
   POINT Place() const;
   void NotePlace();
   void Fit();
+  void LookLater();
   void SnapBack();
   void Rescale(UINT dpi, const RECT& suggested);
   void Close();

@@ -57,18 +57,40 @@ TEST(SnapBack, WishesForTheFixedSizeInTheNormalStateAlone) {
 TEST(SnapBack, GivesInToWhoeverInsistsUntilSomethingHappensFromOutside) {
   SnapBack snap;
   const WindowLook other{.shown = true, .size = kOther};
-  snap.NoteChange();
-  EXPECT_TRUE(snap.Wishes(other, kFixed, kRoom));
-  snap.NoteChange();  // the answer to the wish
-  EXPECT_TRUE(snap.Wishes(other, kFixed, kRoom));
-  snap.NoteChange();
-  EXPECT_FALSE(snap.Wishes(other, kFixed, kRoom)) << "refused twice";
+  const auto refusals = [&] {
+    snap.NoteChange(kOther, kFixed);
+    int count = 0;
+    for (; snap.Wishes(other, kFixed, kRoom); ++count) {
+      EXPECT_TRUE(snap.IsUnderWay());
+      snap.NoteChange(kOther, kFixed);  // the answer
+    }
+    EXPECT_FALSE(snap.IsUnderWay());
+    return count;
+  };
+  const int most = refusals();
+  EXPECT_GT(most, 2) << "a border may be held for a while";
+  EXPECT_LT(most, 10);
   EXPECT_FALSE(snap.Wishes(other, kFixed, kRoom)) << "at rest";
-  snap.NoteChange();  // somebody else's
-  EXPECT_TRUE(snap.Wishes(other, kFixed, kRoom));
-  EXPECT_FALSE(snap.Wishes({.shown = true, .size = kFixed}, kFixed, kRoom)) << "granted";
-  snap.NoteChange();
-  for (int wish = 0; wish < 2; ++wish) EXPECT_TRUE(snap.Wishes(other, kFixed, kRoom)) << "counted anew";
+  EXPECT_EQ(refusals(), most) << "somebody else's change";
+}
+
+TEST(SnapBack, WishesEverMoreRarelyUntilItIsGranted) {
+  SnapBack snap;
+  const WindowLook held{.shown = true, .size = kOther};
+  const auto first = snap.Wait();
+  for (auto before = first; snap.Wishes(held, kFixed, kRoom); before = snap.Wait()) {
+    EXPECT_EQ(snap.Wait(), 2 * before);
+    snap.NoteChange({700, 440}, kFixed);  // a drag that goes on
+    EXPECT_EQ(snap.Wait(), 2 * before);
+    if (before < 4 * first) continue;
+    snap.NoteChange(kFixed, kFixed);
+    EXPECT_EQ(snap.Wait(), first) << "another drag may follow";
+    EXPECT_TRUE(snap.IsUnderWay()) << "the place may come after the size";
+    EXPECT_FALSE(snap.Wishes({.shown = true, .size = kFixed}, kFixed, kRoom));
+    EXPECT_FALSE(snap.IsUnderWay());
+    return;
+  }
+  FAIL() << "gave in too early";
 }
 
 }  // namespace
