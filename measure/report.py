@@ -148,7 +148,8 @@ def measure_screen(program, busy):
         rows += [(f"A drag step at {scale}x, ms of processor", figure(found["drag_step_ms"], digits=3), "", ""),
                  (f"Repainted in a drag step at {scale}x, against old and new place", figure(found["drag_area_ratio"]),
                   "1", ""),
-                 (f"A picture change in a throw at {scale}x, ms of processor", figure(found["change_ms"], digits=3), "", "")]
+                 (f"A picture change in a throw at {scale}x, ms of processor", figure(found["change_ms"], digits=3),
+                  figure(found["bare_change_ms"], digits=3), ratio(found["change_ms"], found["bare_change_ms"]))]
         if scale == 1:
             calm = found["turn_over_percent"]
     loads = [start([sys.executable, "-c", "while True: pass"]) for _ in range(busy)]

@@ -3,16 +3,21 @@
 //   drag_step_ms      processor time from a mouse move to its painted result
 //   drag_area_ratio   pixels repainted a step, over the piece's old and new place together
 //   change_ms         processor time of one picture change in a throw, painting included
+//   bare_change_ms    the same of a bare window that fills two places of the size of a cup, at the pace of the shake
 //   turn_over_percent how much longer a throw with its settlement takes than the sum of its waits
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <QPainter>
+#include <QWidget>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <functional>
 
+#include "desktop/common/scale.h"
+#include "desktop/qt/event_loop_rest.h"
 #include "desktop/qt/form_view.h"
 #include "desktop/qt/qt_desktop.h"
 #include "shell/frmMain.h"
@@ -101,6 +106,38 @@ void MeasureTurn(QWidget& view, CountingDesktop& desktop, const desktop::Element
   std::printf("turn_over_percent %.3f\n", 100 * (took / desktop.planned - 1));
 }
 
+/// Fills what is to be painted, and nothing else.
+class BareWindow : public QWidget {
+ public:
+  BareWindow() { setAttribute(Qt::WA_OpaquePaintEvent); }
+  void paintEvent(QPaintEvent* event) override {
+    QPainter painter(this);
+    for (const QRect& part : event->region()) painter.fillRect(part, Qt::yellow);
+  }
+};
+
+/// The least that a change can cost: to be woken, to fill, and to hand it to the screen.
+void MeasureBareChanges(QRect before, QRect after) {
+  constexpr int kChanges = 20;
+  constexpr double kPace = 0.16;
+  BareWindow window;
+  window.resize(632, 406);
+  window.show();
+  Settle();
+  desktop::qt::EventLoopRest(1).Run();
+  const double start = ProcessorMilliseconds();
+  for (int change = 0; change < kChanges; ++change) {
+    window.repaint(QRegion(before) + after);
+    desktop::qt::EventLoopRest(kPace).Run();
+  }
+  std::printf("bare_change_ms %.4f\n", (ProcessorMilliseconds() - start) / kChanges);
+}
+
+QRect PlaceOf(const desktop::Element& element) {
+  const desktop::common::Rect box = desktop::common::BoxOf(element);
+  return {box.left, box.top, box.width, box.height};
+}
+
 }  // namespace
 
 int main(int, char** argv) {
@@ -119,6 +156,7 @@ int main(int, char** argv) {
     // A bet first, so that the settlement has something to do.
     MeasureDrag(**view, frame.Game.Money[12 - turn]);
     MeasureTurn(**view, desktop, frame.Game.CupStanding);
+    MeasureBareChanges(PlaceOf(frame.Game.CupLeft), PlaceOf(frame.Game.CupRight));
   }
   return 0;
 }
