@@ -3,6 +3,7 @@
 #include "desktop/sdl/sound_player.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
 #include <sys/stat.h>
 
 #include <fstream>
@@ -45,6 +46,9 @@ TEST(SoundPlayer, LeavesOutWhatComesTooLateLetsTheDeviceGoOpensItAgainAndPlaysTo
     heard = Listen(pipe);
   }
   EXPECT_EQ(heard, whole);
+  struct sigaction onTerm = {};
+  sigaction(SIGTERM, nullptr, &onTerm);
+  EXPECT_EQ(onTerm.sa_handler, SIG_DFL) << "what a signal does is the program's own";
   remove(pipe.c_str());
 }
 
