@@ -17,14 +17,11 @@ class SnapBack {
   /// Whether to wish for the fixed size now. `room` is the work area's size.
   bool Wishes(const WindowLook& look, Size fixed, Size room);
 
-  /// Whether a wish has not been looked at yet: place and size may be on their way.
-  bool IsUnderWay() const { return wished_; }
-
   /// How long to wait after a change or a wish before looking.
   std::chrono::milliseconds Wait() const;
 
  private:
-  bool wished_ = false;
+  bool wished_ = false;  ///< and not yet looked at what has come of it
   int refusals_ = 0;
 };
 

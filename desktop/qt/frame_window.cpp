@@ -137,7 +137,7 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FrameWindow::NotePlace() {
-  if (!windowHandle() || snapBack_.IsUnderWay() || !common::IsPlayersOwn(Look(), FixedSize())) return;
+  if (!windowHandle() || !common::IsPlayersOwn(Look(), FixedSize())) return;
   const QPoint corner = frameGeometry().topLeft();
   frame_.Left = common::InTwips(corner.x());
   frame_.Top = common::InTwips(corner.y());
@@ -151,11 +151,15 @@ void FrameWindow::Fit() {
 }
 
 void FrameWindow::SnapBack() {
-  if (!snapBack_.Wishes(Look(), FixedSize(), FromQt(screen()->availableSize()))) return NotePlace();
-  // Of the window, not of the widget, which would believe it at once, and is not asked twice for what it believes.
-  windowHandle()->resize(ToQt(FixedSize()));
-  // A drag of the upper or left border has moved it, too. This asks for the size once more in any case.
-  windowHandle()->setFramePosition({common::OnScreen(frame_.Left), common::OnScreen(frame_.Top)});
+  if (!snapBack_.Wishes(Look(), FixedSize(), FromQt(screen()->availableSize()))) return;
+  // Of the window, not of the widget, which would believe it at once. Nor is the window asked twice for what it
+  // believes: so first it is told the truth, as a wish may have been refused without a word.
+  windowHandle()->setGeometry(geometry());
+  // A drag of the upper or left border has moved it, too.
+  const QMargins decoration = windowHandle()->frameMargins();
+  const QPoint corner(common::OnScreen(frame_.Left) + decoration.left(),
+                      common::OnScreen(frame_.Top) + decoration.top());
+  windowHandle()->setGeometry({corner, ToQt(FixedSize())});
   snapTimer_.start(snapBack_.Wait());
 }
 

@@ -22,11 +22,13 @@ class OpeningSound {
   /// The window's first picture is on the screen.
   void Begin() {
     if (std::exchange(begun_, true)) return;
-    if (first_) player_.Play(*first_);
+    if (first_) player_.Play(*first_, kPatience);
   }
 
  private:
   static constexpr std::chrono::milliseconds kLongest{500};
+  // It goes with nothing that moves, and to load the library may take long on a machine that has just been started.
+  static constexpr std::chrono::milliseconds kPatience{5000};
 
   sdl::SoundPlayer player_;
   bool begun_ = false;

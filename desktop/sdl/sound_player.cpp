@@ -24,9 +24,6 @@ constexpr auto kRingOut = 500ms;
 // Where opening has failed, it is not tried again at every sound.
 constexpr auto kAfterFailure = 2s;
 
-// A sound that could not be started for so long would be out of step with what is seen.
-constexpr auto kTooLate = 400ms;
-
 void SayNothing(const char*, int, const char*, int, const char*, ...) {}
 
 /// Keeps ALSA from writing to the terminal where there is no device. Does nothing elsewhere.
@@ -53,10 +50,10 @@ SoundPlayer::~SoundPlayer() {
   thread_.join();
 }
 
-void SoundPlayer::Play(const WaveImage& image) {
+void SoundPlayer::Play(const WaveImage& image, std::chrono::milliseconds patience) {
   {
     const std::lock_guard lock(mutex_);
-    order_ = Order{image, Clock::now()};
+    order_ = Order{image, Clock::now() + patience};
   }
   changed_.notify_one();
 }
@@ -85,7 +82,7 @@ std::optional<SoundPlayer::Order> SoundPlayer::NextOrder() {
 }
 
 void SoundPlayer::Start(const Order& order) {
-  if (!OpenDevice() || Clock::now() - order.given > kTooLate) return;
+  if (!OpenDevice() || Clock::now() > order.latest) return;
   auto recording = std::make_unique<Recording>(sdl_, order.image);
   const auto length = std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(recording->seconds()));
   letGo_ = Clock::now() + length + kRingOut + kHoldDevice;

@@ -23,15 +23,18 @@ class SoundPlayer {
   SoundPlayer(const SoundPlayer&) = delete;
   SoundPlayer& operator=(const SoundPlayer&) = delete;
 
+  /// A sound later than this would be out of step with what is seen.
+  static constexpr std::chrono::milliseconds kInStep{400};
+
   /// Starts `image`, cutting off what plays. Returns at once, whatever the device does. Without a
-  /// device nothing is heard.
-  void Play(const WaveImage& image);
+  /// device nothing is heard, nor is what could not be started within `patience`.
+  void Play(const WaveImage& image, std::chrono::milliseconds patience = kInStep);
 
  private:
   using Clock = std::chrono::steady_clock;
   struct Order {
     WaveImage image;
-    Clock::time_point given;
+    Clock::time_point latest;
   };
 
   void Work();

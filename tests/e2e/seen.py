@@ -47,5 +47,6 @@ def minimised_and_back(game):
 
 
 def under_a_menu(game):
+    wait_until("the keyboard", game.window.has_focus)
     game.desk.key("Alt_L", "g")
     return wait_until("the menu", lambda: game.other_window(menu=True))

@@ -40,6 +40,9 @@ TEST(SoundPlayer, LeavesOutWhatComesTooLateLetsTheDeviceGoOpensItAgainAndPlaysTo
   std::this_thread::sleep_for(std::chrono::milliseconds(500));
   Samples heard = Listen(pipe);
   EXPECT_EQ(heard, Samples()) << "out of step with what is seen";
+  player.Play(image, std::chrono::hours(1));
+  std::this_thread::sleep_for(std::chrono::milliseconds(500));
+  EXPECT_EQ(Listen(pipe), whole) << "nothing that is seen waits for it";
   // On a busy machine it may be too late a few times more.
   while (heard.size() < whole.size()) {
     player.Play(image);
