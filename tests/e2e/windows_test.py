@@ -31,7 +31,7 @@ class Windows(unittest.TestCase):
         # The box still answers, after all of them.
         self.assertTrue(asked.is_shown())
         self.game.answer("n")
-        self.assertTrue(opens_with(self.game.canvas(), FRESH))
+        wait_until("the table where the box was", lambda: opens_with(self.game.canvas(), FRESH))
 
     def test_the_session_ends_with_a_question_open(self):
         self.game.play()
