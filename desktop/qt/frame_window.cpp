@@ -137,7 +137,8 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FrameWindow::NotePlace() {
-  if (!windowHandle() || !common::IsPlayersOwn(Look(), FixedSize())) return;
+  // In a drag of the upper or left border the frame may for a moment have its size at another place.
+  if (!windowHandle() || snapTimer_.isActive() || !common::IsPlayersOwn(Look(), FixedSize())) return;
   const QPoint corner = frameGeometry().topLeft();
   frame_.Left = common::InTwips(corner.x());
   frame_.Top = common::InTwips(corner.y());
@@ -151,7 +152,7 @@ void FrameWindow::Fit() {
 }
 
 void FrameWindow::SnapBack() {
-  if (!snapBack_.Wishes(Look(), FixedSize(), FromQt(screen()->availableSize()))) return;
+  if (!snapBack_.Wishes(Look(), FixedSize(), FromQt(screen()->availableSize()))) return NotePlace();
   // Of the window, not of the widget, which would believe it at once. Nor is the window asked twice for what it
   // believes: so first it is told the truth, as a wish may have been refused without a word.
   windowHandle()->setGeometry(geometry());

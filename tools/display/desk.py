@@ -212,8 +212,10 @@ class Desk:
         screen = self.root.get_geometry()
         x, y = max(left, 0), max(top, 0)
         size = min(left + width, screen.width) - x, min(top + height, screen.height) - y
-        raw = self.root.get_image(x, y, *size, X.ZPixmap, 0xFFFFFFFF)
         picture = Image.new("RGB", (width, height))
+        if min(size) <= 0:
+            return picture
+        raw = self.root.get_image(x, y, *size, X.ZPixmap, 0xFFFFFFFF)
         picture.paste(Image.frombytes("RGB", size, raw.data, "raw", "BGRX"), (x - left, y - top))
         return picture
 
