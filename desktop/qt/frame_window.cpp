@@ -120,7 +120,10 @@ void FrameWindow::resizeEvent(QResizeEvent*) {
   Fit();
 }
 
-void FrameWindow::moveEvent(QMoveEvent*) { NotePlace(); }
+void FrameWindow::moveEvent(QMoveEvent*) {
+  // In a drag of the upper or left border the frame may for a moment have its size at another place.
+  if (!snapTimer_.isActive()) NotePlace();
+}
 
 void FrameWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
@@ -137,8 +140,7 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FrameWindow::NotePlace() {
-  // In a drag of the upper or left border the frame may for a moment have its size at another place.
-  if (!windowHandle() || snapTimer_.isActive() || !common::IsPlayersOwn(Look(), FixedSize())) return;
+  if (!windowHandle() || !common::IsPlayersOwn(Look(), FixedSize())) return;
   const QPoint corner = frameGeometry().topLeft();
   frame_.Left = common::InTwips(corner.x());
   frame_.Top = common::InTwips(corner.y());
