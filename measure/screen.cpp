@@ -3,13 +3,11 @@
 //   drag_step_ms      processor time from a mouse move to its painted result
 //   drag_area_ratio   pixels repainted a step, over the piece's old and new place together
 //   change_ms         processor time of one picture change in a throw, painting included
-//   bare_change_ms    the same of a bare window that fills two places of the size of a cup, at the pace of the shake
+//   bare_change_ms    the same of the bare window that fills two places of a cup, at the pace of the shake
 //   turn_over_percent how much longer a throw with its settlement takes than the sum of its waits
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
-#include <QPainter>
-#include <QWidget>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -20,6 +18,7 @@
 #include "desktop/qt/event_loop_rest.h"
 #include "desktop/qt/form_view.h"
 #include "desktop/qt/qt_desktop.h"
+#include "measure/bare_window.h"
 #include "shell/frmMain.h"
 
 namespace {
@@ -106,22 +105,11 @@ void MeasureTurn(QWidget& view, CountingDesktop& desktop, const desktop::Element
   std::printf("turn_over_percent %.3f\n", 100 * (took / desktop.planned - 1));
 }
 
-/// Fills what is to be painted, and nothing else.
-class BareWindow : public QWidget {
- public:
-  BareWindow() { setAttribute(Qt::WA_OpaquePaintEvent); }
-  void paintEvent(QPaintEvent* event) override {
-    QPainter painter(this);
-    for (const QRect& part : event->region()) painter.fillRect(part, Qt::yellow);
-  }
-};
-
 /// The least that a change can cost: to be woken, to fill, and to hand it to the screen.
 void MeasureBareChanges(QRect before, QRect after) {
   constexpr int kChanges = 20;
   constexpr double kPace = 0.16;
   BareWindow window;
-  window.resize(632, 406);
   window.show();
   Settle();
   desktop::qt::EventLoopRest(1).Run();

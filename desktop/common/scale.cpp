@@ -1,5 +1,7 @@
 #include "desktop/common/scale.h"
 
+#include <cmath>
+
 namespace desktop::common {
 
 namespace {
@@ -23,7 +25,7 @@ Rect Scale::Outward(const Rect& layout) const {
   const auto up = [this](int length) { return static_cast<int>(std::ceil(length * ratio_)); };
   const Rect touched = Rect::Between(down(layout.left), down(layout.top), up(layout.Right()), up(layout.Bottom()));
   // Place and size are rounded apart, which may take an edge one pixel further.
-  return IsWhole() ? touched : touched.Grown(1);
+  return ratio_ == std::floor(ratio_) ? touched : touched.Grown(1);
 }
 
 Rect Scale::Layout(const Rect& device) const {

@@ -1,8 +1,6 @@
 // From the layout's pixels to the pixels of a screen, and which picture serves which screen.
 #pragma once
 
-#include <cmath>
-
 #include "desktop/common/rect.h"
 #include "desktop/stop.h"
 
@@ -14,8 +12,6 @@ class Scale {
   explicit Scale(double ratio = 1) : ratio_(ratio) {}
 
   double ratio() const { return ratio_; }
-  /// Whether every pixel of the layout is a square of whole device pixels.
-  bool IsWhole() const { return ratio_ == std::floor(ratio_); }
   bool operator==(const Scale&) const = default;
 
   /// The device pixel nearest to a length of the layout; halves go up.

@@ -77,11 +77,9 @@ void FormView::paintEvent(QPaintEvent* event) {
   const common::Rect inside{0, 0, form_.Width - 2 * form_.Border, form_.Height - 2 * form_.Border};
   for (const QRect& rect : event->region()) {
     const common::Rect area{rect.x() - form_.Border, rect.y() - form_.Border, rect.width(), rect.height()};
-    // At other scales the toolkit's own rounding may reach a pixel further.
-    const common::Rect reached = scale.IsWhole() ? area : area.Grown(1);
-    // One by one, and not into the next: within a region of several the toolkit draws pictures span by span, on threads
-    // of its own.
-    const common::Rect device = scale.Outward(reached.Shared(inside));
+    // One by one, and at whole scales not into the next: within a region of several the toolkit draws pictures span by
+    // span, on threads of its own.
+    const common::Rect device = scale.Outward(area.Shared(inside));
     canvas.ClipTo(device);
     common::PaintInside(canvas, form_, drawing_, device, scale);
   }

@@ -27,7 +27,7 @@ class OpeningSound {
 
  private:
   static constexpr std::chrono::milliseconds kLongest{500};
-  // It goes with nothing that moves, and to load the library may take long on a machine that has just been started.
+  // Nothing that is seen goes with the first sound, and loading the library takes long where the disk is cold.
   static constexpr std::chrono::milliseconds kPatience{5000};
 
   sdl::SoundPlayer player_;

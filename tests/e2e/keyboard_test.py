@@ -29,18 +29,18 @@ class Keyboard(unittest.TestCase):
         self.desk.move(1, 1)
         wait_until("the keyboard", self.game.window.has_focus)
 
+    def changed_since(self, canvas):
+        now = self.game.canvas()
+        return {name for name, place in BUTTONS.items() if differs_in(now, canvas, place)}
+
     def test_tab_goes_round_and_a_key_presses(self):
         order = ["Play Game", "Instructions", "Exit", "Options", "Play Game", "Options", "Play Game"]
         keys = [["Tab"]] * 4 + [["Shift_L", "Tab"], ["Tab"]]
         for before, after, pressed in zip(order, order[1:], keys):
             canvas = self.game.canvas()
-
-            def changed():
-                now = self.game.canvas()
-                return {name for name, place in BUTTONS.items() if differs_in(now, canvas, place)}
-
             self.desk.key(*pressed)
-            wait_until(f"the focus to go from {before} to {after}", lambda: changed() == {before, after})
+            wait_until(f"the focus to go from {before} to {after}",
+                       lambda: self.changed_since(canvas) == {before, after})
         self.desk.key("Return")
         wait_until("the table", lambda: opens_with(self.game.canvas(), FRESH))
         self.desk.key("Shift_L", "Tab")
