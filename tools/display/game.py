@@ -222,6 +222,11 @@ class Game:
         """The first instruction shows exactly while a turn is open. On this picture, or now."""
         return box(canvas or self.canvas(), INSTRUCTIONS[0], self.scale).getpixel((1, 1)) == INSTRUCTION
 
+    def has_turn_begun(self, canvas=None):
+        """Down to the button, which may be a window of its own and follow a moment later."""
+        canvas = canvas or self.canvas()
+        return self.can_bet(canvas) and not is_blank(canvas, GET_CHANGE, TABLE, self.scale)
+
     # --- Doing
 
     def at(self, x, y):
@@ -242,7 +247,7 @@ class Game:
         self.wait_for_turn()
 
     def wait_for_turn(self):
-        wait_until("an open turn", self.can_bet)
+        wait_until("an open turn", self.has_turn_begun)
 
     def grip(self, place):
         """Where on the screen to take hold of a piece: the strip that its neighbour on the right leaves free."""

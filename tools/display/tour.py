@@ -12,8 +12,8 @@ from typing import NamedTuple
 from PIL import Image
 
 import desk as desks
-from game import (CAPTIONS, CUP, CUP_FRAMES, GET_CHANGE, MONEY_PICTURES, TABLE, VALUE, Game, dice_squares, differs_in,
-                  is_blank, payout_place, shows, under_menu)
+from game import (CAPTIONS, CUP, CUP_FRAMES, MONEY_PICTURES, VALUE, Game, dice_squares, differs_in, payout_place, shows,
+                  under_menu)
 
 # A stake on every square, so that one wins whatever the dice show: denomination, slot in its pile, and where the
 # corner is dropped. The last one hangs over two edges and is pushed inside.
@@ -76,8 +76,7 @@ def tour(game):
     # The first caption is the first sign that the dice have come to rest for good.
     stage("first outcome", lambda canvas: any(differs_in(canvas, bets.canvas, place) for place in CAPTIONS))
     yield stage("settlement", lambda canvas: (dice := dice_squares(canvas)) and shows(canvas, *last_payout(dice)))
-    # A button may be a window of its own, which follows a moment later.
-    yield stage("next-turn", lambda canvas: game.can_bet(canvas) and not is_blank(canvas, GET_CHANGE, TABLE))
+    yield stage("next-turn", game.has_turn_begun)
 
 
 def main(program, folder):
