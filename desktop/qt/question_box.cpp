@@ -1,5 +1,6 @@
 #include "desktop/qt/question_box.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QKeyEvent>
 
@@ -10,6 +11,7 @@ QuestionBox::QuestionBox(const QString& title, const QString& text, QWidget* par
   setTextFormat(Qt::PlainText);
   setDefaultButton(Yes);
   setWindowModality(Qt::ApplicationModal);
+  for (QAbstractButton* button : buttons()) button->installEventFilter(this);
 }
 
 bool QuestionBox::Ask() { return exec() == Yes; }
@@ -19,6 +21,11 @@ void QuestionBox::closeEvent(QCloseEvent* event) { event->ignore(); }
 void QuestionBox::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Cancel)) return;
   QMessageBox::keyPressEvent(event);
+}
+
+bool QuestionBox::eventFilter(QObject* button, QEvent* event) {
+  const bool isRepeated = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
+  return isRepeated || QMessageBox::eventFilter(button, event);
 }
 
 }  // namespace desktop::qt

@@ -5,7 +5,8 @@
 
 namespace desktop::qt {
 
-/// Esc and the box's close button do nothing: a No by accident could cost the player's money.
+/// Esc and the box's close button do nothing, nor does a key that has been held since before: an answer by accident
+/// could cost the player's money.
 class QuestionBox : public QMessageBox {
  public:
   QuestionBox(const QString& title, const QString& text, QWidget* parent);
@@ -17,6 +18,7 @@ class QuestionBox : public QMessageBox {
   void reject() override {}
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* button, QEvent* event) override;
 };
 
 }  // namespace desktop::qt

@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "desktop/win32/input.h"
 #include "desktop/win32/text.h"
 
 namespace desktop::win32 {
@@ -32,14 +33,23 @@ LRESULT CALLBACK WhenActivated(int code, WPARAM wide, LPARAM details) {
   return CallNextHookEx(nullptr, code, wide, details);
 }
 
+/// An answer by a key that has been held since before would be one by accident.
+LRESULT CALLBACK WhenReceived(int code, WPARAM wide, LPARAM details) {
+  const auto& message = *reinterpret_cast<const MSG*>(details);
+  if (code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN && IsRepeated(message.lParam)) return 1;
+  return CallNextHookEx(nullptr, code, wide, details);
+}
+
 }  // namespace
 
 bool AskYesNo(HWND owner, std::string_view text, std::string_view title) {
-  // The box tells nobody its window but a hook.
-  const HHOOK hook = SetWindowsHookExW(WH_CBT, WhenActivated, nullptr, GetCurrentThreadId());
+  // The box tells nobody its window but a hook, and shows nobody its messages but another.
+  const HHOOK windows = SetWindowsHookExW(WH_CBT, WhenActivated, nullptr, GetCurrentThreadId());
+  const HHOOK messages = SetWindowsHookExW(WH_MSGFILTER, WhenReceived, nullptr, GetCurrentThreadId());
   const int answer =
       MessageBoxW(owner, Wide(text).c_str(), Wide(title).c_str(), MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON1);
-  UnhookWindowsHookEx(hook);
+  UnhookWindowsHookEx(messages);
+  UnhookWindowsHookEx(windows);
   return answer == IDYES;
 }
 

@@ -2,6 +2,7 @@
 """The game played with keys: opening form, menu, question, and the table's one button."""
 
 import os
+import time
 import unittest
 
 from desk import Desk, wait_until
@@ -74,11 +75,22 @@ class Keyboard(unittest.TestCase):
         self.desk.key("Return")
         self.assertEqual(self.game.ended(), 0, "Yes is what Enter answers")
 
+    def test_a_key_that_is_held_since_before_answers_no_question(self):
+        self.game.play()
+        self.desk.key("Alt_L", "g")
+        wait_until("the menu", lambda: self.game.other_window(menu=True))
+        with self.desk.holding("Return"):
+            asked = self.game.question()
+            # Many times over.
+            time.sleep(1.5)
+            self.assertTrue(asked.is_shown())
+        self.game.answer("Return")
+
     def test_the_instructions_are_read_by_keys_after_a_click_into_them_too(self):
-        self.game.click(BUTTONS["Instructions"])
         text = 20, 20, 560, 330
-        opened = self.game.canvas()
-        wait_until("the text", lambda: differs_in(self.game.canvas(), opened, text))
+        opening = self.game.canvas()
+        self.game.click(BUTTONS["Instructions"])
+        wait_until("the text", lambda: differs_in(self.game.canvas(), opening, text))
         self.desk.click(*self.game.middle(text))
         self.desk.move(1, 1)
         for key in ("Down", "Next", "End", "Up"):

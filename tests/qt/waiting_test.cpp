@@ -27,6 +27,8 @@ TEST_F(Question, IsAnsweredByItsButtonsAndTheirKeysAlone) {
     EXPECT_FALSE(table.Loaded) << "no mouse for the forms";
     QTest::keyClick(box.windowHandle(), Qt::Key_Escape);
     box.windowHandle()->close();
+    QKeyEvent heldSinceBefore(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QCoreApplication::sendEvent(box.windowHandle(), &heldSinceBefore);
     QCoreApplication::processEvents();
     EXPECT_TRUE(box.isVisible() && box.result() == 0);
     Answer(box, QMessageBox::Yes);

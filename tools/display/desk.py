@@ -1,5 +1,6 @@
 """A display of one's own: a virtual X server, a window manager on it, its mouse, keys and windows."""
 
+import contextlib
 import ctypes
 import functools
 import os
@@ -170,9 +171,17 @@ class Desk:
 
     def key(self, *names):
         """Presses keys together, such as "Alt_L", "g"."""
+        with self.holding(*names):
+            pass
+
+    @contextlib.contextmanager
+    def holding(self, *names):
+        """Keeps keys down meanwhile. The server repeats the last of them after two thirds of a second."""
         codes = [self.display.keysym_to_keycode(XK.string_to_keysym(name)) for name in names]
         for code in codes:
             xtest.fake_input(self.display, X.KeyPress, code)
+        self.display.sync()
+        yield
         for code in reversed(codes):
             xtest.fake_input(self.display, X.KeyRelease, code)
         self.display.sync()
