@@ -34,7 +34,7 @@ Control* Controls::Make(Element& record) {
     case Kind::Link:
       return Connected(new LinkLabel(pictures_, &view_), record);
     case Kind::TextView:
-      return new TextView(pictures_, &view_);
+      return new TextView(pictures_, &view_, [this, &record] { delivery_.PressControl(form_, record); });
     default:
       return Connected(new WoodButton(pictures_, &view_), record);
   }

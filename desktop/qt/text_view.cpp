@@ -1,5 +1,6 @@
 #include "desktop/qt/text_view.h"
 
+#include <QEvent>
 #include <QScrollBar>
 #include <QTextBlockFormat>
 #include <QTextCursor>
@@ -7,6 +8,7 @@
 #include <QTextImageFormat>
 #include <QToolTip>
 #include <QUrl>
+#include <utility>
 
 #include "desktop/common/ground.h"
 #include "desktop/common/scale.h"
@@ -31,7 +33,8 @@ QTextCharFormat Format(const TextStyle& style) {
 
 }  // namespace
 
-TextView::TextView(PictureStore& pictures, QWidget* parent) : QTextEdit(parent), pictures_(pictures) {
+TextView::TextView(PictureStore& pictures, QWidget* parent, std::function<void()> pressed)
+    : QTextEdit(parent), pictures_(pictures), pressed_(std::move(pressed)) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
   // Which control has the keyboard stands in the records.
@@ -40,6 +43,13 @@ TextView::TextView(PictureStore& pictures, QWidget* parent) : QTextEdit(parent),
   QPalette colours = palette();
   colours.setColor(QPalette::Base, Ground());
   setPalette(colours);
+  viewport()->installEventFilter(this);
+  verticalScrollBar()->installEventFilter(this);
+}
+
+bool TextView::eventFilter(QObject* part, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) pressed_();
+  return QTextEdit::eventFilter(part, event);
 }
 
 void TextView::Follow(const Element& record) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTextEdit>
+#include <functional>
 
 #include "desktop/common/keyboard.h"
 #include "desktop/qt/control.h"
@@ -10,7 +11,8 @@ namespace desktop::qt {
 
 class TextView : public QTextEdit, public Control {
  public:
-  TextView(PictureStore& pictures, QWidget* parent);
+  /// `pressed` hears of presses with the mouse, on the scroll bar too.
+  TextView(PictureStore& pictures, QWidget* parent, std::function<void()> pressed);
 
   QWidget& widget() override { return *this; }
   void Follow(const Element& record) override;
@@ -18,6 +20,7 @@ class TextView : public QTextEdit, public Control {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* part, QEvent* event) override;
 
  private:
   void Write();
@@ -25,6 +28,7 @@ class TextView : public QTextEdit, public Control {
   void WritePicture(class QTextCursor& cursor, const Run& run);
 
   PictureStore& pictures_;
+  std::function<void()> pressed_;
   const Document* shown_ = nullptr;
   double ratio_ = 0;  ///< of the screen that the pictures were made for
 };

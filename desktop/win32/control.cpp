@@ -16,7 +16,7 @@ std::unique_ptr<Control> MakeControl(const Element& record, ControlEvents events
     case Kind::Link:
       return std::make_unique<LinkLabel>(std::move(events), materials, parent);
     case Kind::TextView:
-      return std::make_unique<TextView>(materials, parent);
+      return std::make_unique<TextView>(std::move(events), materials, parent);
     default:
       return std::make_unique<WoodButton>(std::move(events), materials, parent);
   }

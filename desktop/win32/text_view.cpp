@@ -3,9 +3,11 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "desktop/common/ground.h"
+#include "desktop/win32/input.h"
 #include "desktop/win32/text.h"
 
 namespace desktop::win32 {
@@ -46,7 +48,8 @@ std::wstring WithReturns(const std::string& words) {
 
 }  // namespace
 
-TextView::TextView(Materials& materials, HWND parent) : materials_(materials) {
+TextView::TextView(ControlEvents events, Materials& materials, HWND parent)
+    : events_(std::move(events)), materials_(materials) {
   Create(nullptr, WS_CHILD | WS_CLIPSIBLINGS | WS_VSCROLL, 0, {}, parent);
 }
 
@@ -61,16 +64,17 @@ void TextView::LayOut() {
   if (!shown_) return;
   RECT inside{};
   GetClientRect(handle(), &inside);
-  width_ = inside.right;
   const common::Scale& scale = materials_.scale;
-  layout_.emplace(*shown_, width_ / scale.ratio() - 2 * kMargin, materials_.fonts);
+  layout_.emplace(*shown_, inside.right / scale.ratio() - 2 * kMargin, materials_.fonts);
   SCROLLINFO bar{};
   bar.cbSize = sizeof bar;
   bar.fMask = SIF_RANGE | SIF_PAGE | SIF_DISABLENOSCROLL;
   bar.nMax = scale.Device(layout_->Height() + 2 * kMargin) - 1;
   bar.nPage = static_cast<UINT>(inside.bottom);
   SetScrollInfo(handle(), SB_VERT, &bar, TRUE);
-  ScrollTo(top_);
+  // On a screen of another scale what was read stays in view.
+  const double before = std::exchange(ratio_, scale.ratio());
+  ScrollTo(static_cast<int>(std::lround(top_ * ratio_ / before)));
   InvalidateRect(handle(), nullptr, FALSE);
 }
 
@@ -142,6 +146,8 @@ void TextView::Wheel(int notches) {
 }
 
 LRESULT TextView::Handle(UINT message, WPARAM wide, LPARAM details) {
+  const bool onScrollBar = message == WM_NCLBUTTONDOWN;
+  if (onScrollBar || PressedBy(message) != 0) events_.pressed();
   switch (message) {
     case WM_SIZE:
       LayOut();

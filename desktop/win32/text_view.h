@@ -13,7 +13,7 @@ namespace desktop::win32 {
 
 class TextView : public Window, public Control {
  public:
-  TextView(Materials& materials, HWND parent);
+  TextView(ControlEvents events, Materials& materials, HWND parent);
 
   // --- Control
   HWND window() const override { return handle(); }
@@ -41,12 +41,13 @@ class TextView : public Window, public Control {
   void FollowMouse();
   common::Stretch Selected() const;
 
+  ControlEvents events_;
   Materials& materials_;
   const Document* shown_ = nullptr;
   std::optional<common::DocumentLayout> layout_;
-  int width_ = 0;    ///< that the lines were laid out for, in device pixels
-  int top_ = 0;      ///< how far the document is scrolled, in device pixels
-  int notched_ = 0;  ///< of the wheel, less than one step
+  double ratio_ = 1;  ///< of the scale that the lines were laid out for
+  int top_ = 0;       ///< how far the document is scrolled, in device pixels
+  int notched_ = 0;   ///< of the wheel, less than one step
   bool selecting_ = false;
   LPARAM mouse_ = 0;        ///< while selecting
   std::size_t anchor_ = 0;  ///< where the selection began
