@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QSocketNotifier>
+#include <QThread>
 #include <cstdlib>
 #include <utility>
 
@@ -29,6 +30,20 @@ void AtExit() {
   if (const auto* end = std::exchange(lastCall, nullptr)) (*end)();
 }
 
+// On Wayland it calls _exit, of which nobody is told, but it says so before, also on a thread of its own that reads from
+// the compositor. That one is held up until the last call has been made where the game runs.
+constexpr unsigned long kLongestCall = 10;  // seconds
+
+QtMessageHandler sayToOthers = nullptr;
+
+void Hear(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  sayToOthers(type, context, text);
+  if (!text.startsWith(QLatin1String("The Wayland connection "))) return;
+  if (QThread::currentThread() == qApp->thread()) return AtExit();
+  QMetaObject::invokeMethod(qApp, AtExit, Qt::QueuedConnection);
+  QThread::sleep(kLongestCall);
+}
+
 }  // namespace
 
 Endings::Endings(std::function<void()> end) : end_(std::move(end)) {
@@ -36,9 +51,13 @@ Endings::Endings(std::function<void()> end) : end_(std::move(end)) {
   QCoreApplication::instance()->installEventFilter(this);
   static const int registered = std::atexit(AtExit);
   if (registered == 0) lastCall = &end_;
+  sayToOthers = qInstallMessageHandler(Hear);
 }
 
-Endings::~Endings() { lastCall = nullptr; }
+Endings::~Endings() {
+  qInstallMessageHandler(sayToOthers);
+  lastCall = nullptr;
+}
 
 void Endings::CatchSignals() {
   if (wakeUp[0] < 0 && socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0, wakeUp) != 0) return;

@@ -15,6 +15,14 @@ from seen import OLD
 EMBLEM = ("ThistleAndLantern128", (16, 24))
 
 
+def started(desk, scale):
+    """A compositor without a screen, and the game in its session."""
+    compositor = desk.start(["weston", "--backend=headless-backend.so", "--socket=wayland-test", "--width=1280",
+                             "--height=960", f"--scale={scale}", "--use-pixman", "--debug", "--idle-time=0"], quiet=True)
+    wait_until("the compositor", lambda: os.path.exists(desk.home + "/wayland-test"))
+    return compositor, desk.start([os.environ["GAME"]], quiet=True, WAYLAND_DISPLAY="wayland-test")
+
+
 class Wayland(unittest.TestCase):
     def shot(self, desk):
         """The compositor's own picture of its screen."""
@@ -37,16 +45,21 @@ class Wayland(unittest.TestCase):
     def test_is_native_and_sharp_and_leaves_the_stored_place_alone(self):
         for scale in (1, 2):
             with self.subTest(scale=scale), Desk() as desk:
-                desk.start(["weston", "--backend=headless-backend.so", "--socket=wayland-test", "--width=1280",
-                            "--height=960", f"--scale={scale}", "--use-pixman", "--debug", "--idle-time=0"], quiet=True)
-                wait_until("the compositor", lambda: os.path.exists(desk.home + "/wayland-test"))
                 write_settings(desk, **OLD)
-                game = desk.start([os.environ["GAME"]], quiet=True, WAYLAND_DISPLAY="wayland-test")
+                _, game = started(desk, scale)
                 wait_until("the emblem, pixel by pixel", lambda: self.shows_emblem(desk, scale))
                 self.assertEqual(desk.windows(game.pid), [], "nothing on the X11 beside it")
                 game.terminate()
                 self.assertEqual(game.wait(timeout=60), 0)
                 self.assertEqual(settings(desk), OLD)
+
+    def test_a_compositor_that_goes_takes_no_money_with_it(self):
+        with Desk() as desk:
+            compositor, game = started(desk, 1)
+            wait_until("the emblem", lambda: self.shows_emblem(desk, 1))
+            compositor.kill()
+            game.wait(timeout=60)
+            self.assertEqual(settings(desk).get("SoundOn"), "True")
 
 
 if __name__ == "__main__":
