@@ -1,5 +1,7 @@
 #include "desktop/common/delivery.h"
 
+#include <algorithm>
+
 #include "desktop/common/walk.h"
 
 namespace desktop::common {
@@ -38,8 +40,15 @@ Delivery::Delivery(Frame& frame, Screen& screen, Waits& waits)
 
 void Delivery::Deliver(const std::function<void()>& handler) {
   handler();
+  LoseOnGone();
   screen_.Follow();
   waits_.LookUp();
+}
+
+/// A form that is left by a key takes with it the view on which the release would arrive.
+void Delivery::LoseOnGone() {
+  const auto& forms = frame_.Children();
+  if (HeldOn() && std::ranges::find(forms, HeldOn()) == forms.end()) pointer_.Lose();
 }
 
 void Delivery::Press(Form& form, int button, float x, float y) {

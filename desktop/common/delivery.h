@@ -68,6 +68,8 @@ class Delivery {
   void Deliver(const std::function<void()>& handler);
 
  private:
+  void LoseOnGone();
+
   Frame& frame_;
   Screen& screen_;
   Waits& waits_;

@@ -8,7 +8,7 @@ namespace desktop::common {
 /// From a left press on an element to the left release, that element gets every mouse event,
 /// wherever the pointer is: it holds the mouse. Other buttons never start a hold, so that no
 /// element sees a left release, or a move with the left button down, without its own left press.
-/// Points are whole pixels from the form's top left corner inside its border.
+/// Points are pixels from the form's top left corner inside its border.
 class Pointer {
  public:
   explicit Pointer(Frame& frame) : frame_(frame) {}

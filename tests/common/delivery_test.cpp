@@ -108,6 +108,15 @@ TEST_F(Bench, KeysReachTheFormInFrontAlone) {
   EXPECT_EQ(form.Focus, &form.plain);
 }
 
+TEST_F(Bench, AHoldEndsWithTheFormThatItIsOn) {
+  delivery.Press(form, kLeftButton, 52, 53);
+  form.clicked = [&] { frame.Unload(form); };
+  delivery.PressKey(Key::Escape, false);
+  EXPECT_EQ(delivery.HeldOn(), nullptr);
+  form.clicked = [] {};
+  EXPECT_EQ(Told(), "down c 1 at 30,45; | click closing; lost c; | ");
+}
+
 TEST_F(Bench, AHandDoesWhatThePlayersOwnCouldDoNow) {
   const desktop::Hand hand{52, 53, 51, 55};
   delivery.MoveHand(form, hand);
