@@ -17,7 +17,8 @@ QSettings& SettingsStore::At(std::string_view application, std::string_view sect
 
 std::string SettingsStore::Read(std::string_view application, std::string_view section, std::string_view key,
                                 std::string_view fallback) {
-  return At(application, section).value(Text(key), Text(fallback)).toString().toStdString();
+  // A file that somebody has written by hand may have a comma, at which the toolkit makes a list of it.
+  return At(application, section).value(Text(key), Text(fallback)).toStringList().join(u',').toStdString();
 }
 
 void SettingsStore::Save(std::string_view application, std::string_view section, std::string_view key,

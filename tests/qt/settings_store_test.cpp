@@ -28,6 +28,14 @@ TEST(Settings, AreWrittenToTheirFileAndNotMadeByReading) {
   ASSERT_TRUE(file.open(QFile::ReadOnly));
   EXPECT_EQ(file.readAll(), "[General]\nMainLeft=-1200\nSoundOn=False\n");
   EXPECT_EQ(read("MainLeft"), "-1200");
+  file.close();
+  // As somebody may have written it.
+  ASSERT_TRUE(file.open(QFile::WriteOnly));
+  file.write("[General]\nStash0=1,000\nStash1=\n");
+  file.close();
+  desktop::qt::SettingsStore fresh;
+  EXPECT_EQ(fresh.Read("Thistle and Lantern", "Settings", "Stash0", "none"), "1,000");
+  EXPECT_EQ(fresh.Read("Thistle and Lantern", "Settings", "Stash1", "none"), "");
 }
 
 }  // namespace
