@@ -1,5 +1,6 @@
 #include "desktop/common/scale.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace desktop::common {
@@ -39,6 +40,11 @@ int Scale::Pixel(int device) const { return static_cast<int>(std::ceil((device +
 Size Scale::Device(const Picture& picture) const { return {Device(picture.width), Device(picture.height)}; }
 
 int Scale::Line() const { return std::max(1, Nearest(ratio_)); }
+
+Rect BoxOf(const Form& form) {
+  const auto inReach = [](float place) { return Nearest(std::clamp(place, -32768.F, 32767.F)); };
+  return {inReach(form.Left), inReach(form.Top), form.Width, form.Height};
+}
 
 Rect BoxOf(const Element& element) {
   return {Nearest(element.Left), Nearest(element.Top), Nearest(element.Width), Nearest(element.Height)};

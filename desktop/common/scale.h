@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/common/rect.h"
-#include "desktop/stop.h"
+#include "desktop/form.h"
 
 namespace desktop::common {
 
@@ -35,7 +35,9 @@ class Scale {
   double ratio_;
 };
 
-/// The box of an element or of a stop in the layout's pixels.
+/// The box of a form in its frame, of an element or of a stop, in the layout's pixels. No form stands further out than
+/// 16 bits tell, however absurd the place from which it counts.
+Rect BoxOf(const Form& form);
 Rect BoxOf(const Element& element);
 Rect BoxOf(const Stop& stop);
 
@@ -45,7 +47,7 @@ inline constexpr double kCarriedScales[] = {1, 1.25, 1.5, 1.75, 2};
 
 /// The scale of the carried picture that is shown `wanted` pixels wide where it measures `width` in the
 /// layout. `isCarried` tells whether there is one in a scale between the first and the last. What does not
-/// fit exactly is reduced from the largest.
+/// fit exactly is reduced from the largest, or from the smallest where that is large enough.
 template <typename IsCarried>
 double CarriedScale(int width, int wanted, const IsCarried& isCarried) {
   constexpr double kLeast = kCarriedScales[0];

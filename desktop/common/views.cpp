@@ -4,21 +4,17 @@
 #include <utility>
 
 #include "desktop/common/keyboard.h"
-#include "desktop/common/rect.h"
+#include "desktop/common/scale.h"
 
 namespace desktop::common {
 
 namespace {
 
-Rect PlaceOf(const Form& form) {
-  return {static_cast<int>(form.Left), static_cast<int>(form.Top), form.Width, form.Height};
-}
-
 /// Whether one of the forms in front of `form` leaves nothing of it in view.
 bool IsCovered(const Form& form, const std::vector<Form*>& forms) {
   const auto at = std::ranges::find(forms, &form);
   return std::any_of(at + 1, forms.end(),
-                     [&](const Form* front) { return PlaceOf(*front).United(PlaceOf(form)) == PlaceOf(*front); });
+                     [&](const Form* front) { return BoxOf(*front).United(BoxOf(form)) == BoxOf(*front); });
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ void FormView::DecodePictures() {
 }
 
 void FormView::Follow() {
-  setGeometry(qRound(form_.Left), qRound(form_.Top), form_.Width, form_.Height);
+  setGeometry(ToQt(common::BoxOf(form_)));
   for (const common::Rect& area : drawing_.Follow()) {
     const common::Scale scale(devicePixelRatioF());
     marked_ += ToQt(scale.Layout(scale.Outward(area)).Moved(form_.Border, form_.Border));

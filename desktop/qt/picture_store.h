@@ -13,7 +13,7 @@ namespace desktop::qt {
 class PictureStore {
  public:
   /// The picture in this size, in device pixels. In the sizes in which it is carried these are the pixels of the
-  /// file; otherwise the largest file is reduced, once. One that does not load is a program built wrongly: it shows in
+  /// file; otherwise a larger file is reduced, once. One that does not load is a program built wrongly: it shows in
   /// magenta, and is told on the terminal.
   const QPixmap& Sized(const Picture& picture, common::Size size);
 
