@@ -113,6 +113,11 @@ class Installer(unittest.TestCase):
         self.uninstall()
         self.assertEqual(names(folder), {"mine.txt"})
 
+    def test_a_folder_that_is_gone_stands_in_nobodys_way(self):
+        self.reg("add", UNINSTALL, "/v", "InstallLocation", "/d", r"Q:\Gone", "/f")
+        folder = self.install()
+        self.assertEqual(names(folder), FILES)
+
     def test_a_running_game_is_neither_replaced_nor_removed(self):
         folder = self.install(r"/D=C:\Dice")
         entry = self.entry()
