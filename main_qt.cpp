@@ -5,10 +5,8 @@
 #include "shell/frmMain.h"
 
 int main(int, char** argv) {
-  // Only the program's name: nothing on the command line means anything here.
-  int count = 1;
-  desktop::qt::PrepareToolkit();
-  QApplication application(count, argv);
+  desktop::qt::CommandLine line(argv[0]);
+  QApplication application(line.count, line.words);
   desktop::qt::QtDesktop desktop;
   thistle::frmMain frame(desktop);
   thistle::Main(frame);

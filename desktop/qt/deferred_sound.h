@@ -11,7 +11,7 @@ namespace desktop::qt {
 
 /// To load the sound library beside it would hold up the first picture. So the first sound waits for that, but not for
 /// ever: a window may come up out of sight.
-class OpeningSound {
+class DeferredSound {
  public:
   void Play(const WaveImage& image) {
     if (begun_) return player_.Play(image);

@@ -30,8 +30,8 @@ void AtExit() {
   if (const auto* end = std::exchange(lastCall, nullptr)) (*end)();
 }
 
-// On Wayland it calls _exit, of which nobody is told, but it says so before, also on a thread of its own that reads from
-// the compositor. That one is held up until the last call has been made where the game runs.
+// On Wayland it calls _exit, of which nobody is told, but it says so before, also on a thread of its own that reads
+// from the compositor. That one is held up until the last call has been made where the game runs.
 constexpr unsigned long kLongestCall = 10;  // seconds
 
 QtMessageHandler sayToOthers = nullptr;

@@ -26,12 +26,19 @@ bool IsWaylandAtHand() {
 
 }  // namespace
 
-void PrepareToolkit() {
+CommandLine::CommandLine(char* program) : words{program} {
 #ifdef Q_OS_LINUX
   // Where both are at hand and the user has not chosen: X11 tells a window its place, but in a Wayland session it shows
-  // a picture that is stretched on dense screens.
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
-    qputenv("QT_QPA_PLATFORM", IsWaylandAtHand() ? "wayland;xcb" : "xcb;wayland");
+  // a picture that is stretched on dense screens. Not by the environment, which the user's programs for mail and pages
+  // would inherit.
+  static char option[] = "-platform";
+  static char wayland[] = "wayland;xcb";
+  static char x11[] = "xcb;wayland";
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
+    words[1] = option;
+    words[2] = IsWaylandAtHand() ? wayland : x11;
+    count = 3;
+  }
 #endif
   // The toolkit's own store of pixmaps would wake an idle program half a minute later, to look through itself.
   QPixmapCache::setCacheLimit(0);

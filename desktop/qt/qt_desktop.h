@@ -10,16 +10,22 @@
 #include "desktop/common/views.h"
 #include "desktop/common/waits.h"
 #include "desktop/desktop.h"
+#include "desktop/qt/deferred_sound.h"
 #include "desktop/qt/endings.h"
 #include "desktop/qt/frame_window.h"
-#include "desktop/qt/opening_sound.h"
 #include "desktop/qt/picture_store.h"
 #include "desktop/qt/settings_store.h"
 
 namespace desktop::qt {
 
-/// Settings of the toolkit for the whole process. Before the QApplication is made.
-void PrepareToolkit();
+/// What the toolkit is told at its start. Made before the QApplication, and lives as long.
+struct CommandLine {
+  /// Only the program's name: nothing that a user writes behind it means anything here.
+  explicit CommandLine(char* program);
+
+  int count = 1;
+  char* words[4];
+};
 
 /// Needs a QApplication that lives as long.
 class QtDesktop : public Desktop, private common::Screen {
@@ -55,7 +61,7 @@ class QtDesktop : public Desktop, private common::Screen {
   common::Chance chance_;
   SettingsStore settings_;
   PictureStore pictures_;
-  OpeningSound sound_;
+  DeferredSound sound_;
   std::optional<common::Delivery> delivery_;
   std::unique_ptr<FrameWindow> window_;
   std::optional<common::Views> views_;

@@ -22,9 +22,8 @@ class Doorman : public QObject {
 }  // namespace
 
 int main(int, char** argv) {
-  int count = 1;
-  desktop::qt::PrepareToolkit();
-  QApplication application(count, argv);
+  desktop::qt::CommandLine line(argv[0]);
+  QApplication application(line.count, line.words);
   Doorman doorman;
   application.installEventFilter(&doorman);
   hands::Witnessed<desktop::qt::QtDesktop> desktop;
