@@ -24,7 +24,7 @@ set(may_shell ${game} table shell)
 # The headers of toolkits and platforms, in lower case, and the folders that may have them.
 set(qt "q[a-z]*(/.*)?")
 set(sdl "(sdl2?/)?sdl.*\\.h")
-set(windows "(windows|windowsx|winuser|wingdi|winreg|commctrl|commdlg|mmsystem|wincodec|shellapi|shlobj|objbase|oleacc|uiautomation|richedit|uxtheme|vssym32|dwmapi|initguid|tchar)\\.h")
+set(windows "(windows|windowsx|winuser|wingdi|winreg|commctrl|commdlg|mmsystem|wincodec|shellapi|shlobj|objbase|oleacc|imm|uiautomation|richedit|uxtheme|vssym32|dwmapi|initguid|tchar)\\.h")
 set(posix "(x11/.*|xcb/.*|dlfcn\\.h|unistd\\.h|signal\\.h|sys/.*|wayland.*)")
 set(has_qt desktop/qt)
 set(has_sdl desktop/sdl)

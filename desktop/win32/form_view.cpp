@@ -59,8 +59,9 @@ void FormView::Show(bool shown) {
 
 void FormView::Stand() {
   const common::Scale& scale = materials_.scale;
-  const common::Rect place{scale.Device(form_.Left), scale.Device(form_.Top), scale.Device(form_.Width),
-                           scale.Device(form_.Height)};
+  const common::Rect box = common::BoxOf(form_);
+  const common::Rect place{scale.Device(box.left), scale.Device(box.top), scale.Device(box.width),
+                           scale.Device(box.height)};
   if (std::exchange(place_, place) == place) return;
   SetWindowPos(handle(), nullptr, place.left, place.top, place.width, place.height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -237,7 +238,7 @@ void FormView::LoseMouse() {
 
 /// Keys mean the same wherever on the form the keyboard is. False for a key that means nothing here.
 bool FormView::TakeKey(WPARAM code, LPARAM details) {
-  const auto key = KeyOf(code);
+  const auto key = KeyOf(code, WrittenBy(code, details));
   if (key) {
     const common::Scroll scroll = delivery_.PressKey(*key, IsRepeated(details));
     if (text_) text_->ScrollBy(scroll);

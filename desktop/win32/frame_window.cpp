@@ -80,13 +80,27 @@ POINT FrameWindow::Place() const {
   return {scale.Device(common::OnScreen(frame_.Left)), scale.Device(common::OnScreen(frame_.Top))};
 }
 
-void FrameWindow::NotePlace() {
-  if (!appeared_ || !common::IsPlayersOwn(Look(), FixedSize())) return;
+/// Whether the noted place lies on the screen on which the window stands.
+bool FrameWindow::IsPlaceHere() const {
+  const POINT place = Place();
+  const RECT there{place.x, place.y, place.x + outer_.cx, place.y + outer_.cy};
+  return MonitorFromRect(&there, MONITOR_DEFAULTTONULL) == MonitorFromWindow(handle(), MONITOR_DEFAULTTONEAREST);
+}
+
+POINT FrameWindow::Corner() const {
   RECT outer{};
   GetWindowRect(handle(), &outer);
+  return {outer.left, outer.top};
+}
+
+void FrameWindow::NotePlace() {
+  // What the title bar is dragged over on the way to an edge of the screen, at which the system snaps the window, is
+  // not where the player has put it.
+  if (!appeared_ || held_ || !common::IsPlayersOwn(Look(), FixedSize())) return;
+  const POINT corner = Corner();
   const double ratio = DesktopScale().ratio();
-  frame_.Left = common::InTwips(static_cast<int>(std::lround(outer.left / ratio)));
-  frame_.Top = common::InTwips(static_cast<int>(std::lround(outer.top / ratio)));
+  frame_.Left = common::InTwips(static_cast<int>(std::lround(corner.x / ratio)));
+  frame_.Top = common::InTwips(static_cast<int>(std::lround(corner.y / ratio)));
 }
 
 void FrameWindow::Fit() {
@@ -102,9 +116,10 @@ void FrameWindow::SnapBack() {
   KillTimer(handle(), kSnapTimer);
   // No window is left at half the screen: none here refuses a size for that.
   constexpr common::Size kNoRoom{};
-  if (!snapBack_.Wishes(Look(), FixedSize(), kNoRoom)) return;
-  // A drag of the upper or left border has moved it, too.
-  StandAt(Place());
+  if (!snapBack_.Wishes(Look(), FixedSize(), kNoRoom)) return NotePlace();
+  // What has changed its size has moved it, too: a snap, a drag of the upper or left border. But where it was maximised
+  // and has come to another screen meanwhile, or its own is gone, it stays.
+  StandAt(IsPlaceHere() ? Place() : Corner());
   LookLater();
 }
 
@@ -112,15 +127,18 @@ void FrameWindow::Rescale(UINT dpi, const RECT& suggested) {
   scale_ = ScaleOf(dpi);
   rescale_(scale_);
   const common::Rect room = FromWindows(suggested);
+  // Also the least size to which it can be restored.
+  outer_ = ReckonedSize();
   if (IsZoomed(handle()))
     SetWindowPos(handle(), nullptr, room.left, room.top, room.width, room.height, SWP_NOZORDER | SWP_NOACTIVATE);
-  else
+  else if (!IsIconic(handle()))
     StandAt({room.left, room.top});
   InvalidateRect(handle(), nullptr, FALSE);
 }
 
 void FrameWindow::Close() {
   frame_.State = common::StateOf(Look(), FixedSize());
+  held_ = false;
   NotePlace();
   delivery_.Close();
 }
@@ -141,6 +159,13 @@ LRESULT FrameWindow::Handle(UINT message, WPARAM wide, LPARAM details) {
     case WM_MOVE:
       NotePlace();
       return 0;
+    case WM_ENTERSIZEMOVE:
+      held_ = true;
+      break;
+    case WM_EXITSIZEMOVE:
+      held_ = false;
+      LookLater();
+      break;
     case WM_TIMER:
       SnapBack();
       return 0;

@@ -34,6 +34,8 @@ class FrameWindow : public Window {
   void StandAt(POINT place);
   common::WindowLook Look() const;
   POINT Place() const;
+  POINT Corner() const;
+  bool IsPlaceHere() const;
   void NotePlace();
   void Fit();
   void LookLater();
@@ -49,6 +51,7 @@ class FrameWindow : public Window {
   SIZE outer_{};         ///< the fixed size with the decoration
   common::SnapBack snapBack_;
   bool appeared_ = false;
+  bool held_ = false;  ///< by its title bar
 };
 
 }  // namespace desktop::win32

@@ -30,7 +30,20 @@ int HeldIn(WPARAM flags) {
          (flags & MK_MBUTTON ? kMiddleButton : 0);
 }
 
-std::optional<Key> KeyOf(WPARAM code) {
+wchar_t WrittenBy(WPARAM code, LPARAM details) {
+  // So that an accent begun elsewhere is not lost.
+  constexpr UINT kLeaveKeyboard = 1 << 2;
+  BYTE held[256] = {};
+  if (!GetKeyboardState(held)) return 0;
+  wchar_t written[4] = {};
+  const UINT scanCode = HIWORD(details) & 0xFF;
+  const int count = ToUnicode(static_cast<UINT>(code), scanCode, held, written, 4, kLeaveKeyboard);
+  return count == 1 ? written[0] : 0;
+}
+
+std::optional<Key> KeyOf(WPARAM code, wchar_t written) {
+  // On some keyboards on the key of a digit.
+  if (written == L'+') return Key::Plus;
   struct Pair {
     WPARAM code;
     Key key;

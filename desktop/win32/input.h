@@ -15,8 +15,11 @@ int ReleasedBy(UINT message);
 /// The sum of all that are held, from a mouse message's flags.
 int HeldIn(WPARAM flags);
 
-/// None for a key that means nothing on a form.
-std::optional<Key> KeyOf(WPARAM code);
+/// What a WM_KEYDOWN of the code means, with what the key writes on the user's keyboard. None for a key that means
+/// nothing on a form.
+std::optional<Key> KeyOf(WPARAM code, wchar_t written);
+/// What the key of a WM_KEYDOWN writes, with what else is held now. Zero where that is nothing, or an accent to come.
+wchar_t WrittenBy(WPARAM code, LPARAM details);
 /// Whether a WM_KEYDOWN tells of a key that is held down and repeats.
 inline bool IsRepeated(LPARAM details) { return (details & 1 << 30) != 0; }
 bool IsCopy(WPARAM code);

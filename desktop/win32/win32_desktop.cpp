@@ -3,6 +3,7 @@
 #include <windows.h>
 
 // After windows.h, without which they cannot be read.
+#include <imm.h>
 #include <mmsystem.h>
 #include <objbase.h>
 #include <shellapi.h>
@@ -22,6 +23,8 @@ namespace desktop::win32 {
 
 Win32Desktop::Win32Desktop() {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
+  // Nothing is written here. An input method would take the keys for the beginning of a word.
+  ImmDisableIME(0);
   materials_ = std::make_unique<Materials>();
 }
 

@@ -20,6 +20,8 @@ ATOM Window::Class() {
     made.lpfnWndProc = Receive;
     made.hInstance = GetModuleHandleW(nullptr);
     made.hIcon = LoadIconOf(SM_CXICON, SM_CYICON);
+    // Where no window has a shape of its own: over the frame's ground.
+    made.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     made.hIconSm = LoadIconOf(SM_CXSMICON, SM_CYSMICON);
     made.lpszClassName = L"ThistleAndLantern";
     return RegisterClassExW(&made);

@@ -11,7 +11,7 @@ import time
 import unittest
 
 from desk import Desk, wait_until
-from game import CLIENT, FRESH, TABLE, Game, settings, write_settings
+from game import CLIENT, FRESH, TABLE, Game, pile_place, settings, write_settings
 from seen import minimised_and_back, opens_with
 
 MANAGER = None if sys.argv[1] == "none" else sys.argv[1]
@@ -153,6 +153,20 @@ class Frame(unittest.TestCase):
 
         wait_until("the maximised table", look)
 
+    def drop_on_ground(self, game, left, top, menu_height):
+        """A piece dropped beside the table goes home, and leaves the pointer there as it found it."""
+        corner = game.window.rect()
+        pile = pile_place(0, 12)
+        taken = corner[0] + left + pile[0] + 4, corner[1] + menu_height + top + pile[1] + 10
+        ground = corner[0] + 40, corner[1] + menu_height + 40
+        self.desk.move(*taken)
+        arrow = self.desk.pointer_shape()
+        self.desk.drag(taken, ground)
+        wait_until("the no-drop symbol", lambda: self.desk.pointer_shape() != arrow)
+        self.desk.release()
+        self.desk.move(*(side + 10 for side in ground))
+        wait_until("the arrow on the ground", lambda: self.desk.pointer_shape() == arrow)
+
     @unittest.skipUnless(MANAGER, "nobody to maximise")
     def test_maximise_minimise_restore(self):
         left, top = 201, 103
@@ -165,6 +179,7 @@ class Frame(unittest.TestCase):
             offset = left, top, normal[3] - CLIENT[1]
             self.maximise(game)
             self.wait_for_maximised(game, *offset)
+            self.drop_on_ground(game, *offset)
             for way_back in (lambda: self.maximise(game, False), lambda: minimised_and_back(game)):
                 way_back()
                 wait_until("the place before", lambda: game.window.rect() == normal)

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "desktop/building_blocks.h"
+#include "desktop/units.h"
 #include "desktop/win32/handles.h"
 #include "desktop/win32/text.h"
 #include "desktop/win32/win32_desktop.h"
@@ -175,6 +176,26 @@ class Win32DesktopTest : public testing::Test {
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
   }
 
+  /// Lets what is due come, until the frame stands there with its size.
+  bool ComesTo(LONG left, LONG top) {
+    for (int look = 0; look < 100; ++look) {
+      RECT outside{};
+      RECT inside{};
+      GetWindowRect(window_, &outside);
+      GetClientRect(window_, &inside);
+      if (outside.left == left && outside.top == top && inside.right == 300 && inside.bottom == 200) return true;
+      desktop_.RunEventsUntil(desktop_.Clock() + 0.05);
+    }
+    return false;
+  }
+
+  void Put(int left, int top, int more) {
+    RECT outside{};
+    GetWindowRect(window_, &outside);
+    SetWindowPos(window_, nullptr, left, top, outside.right - outside.left + more, outside.bottom - outside.top + more,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+
   bench::Frame frame_;
   OneButton form_{frame_};
   Win32Desktop desktop_;
@@ -262,6 +283,48 @@ TEST_F(Win32DesktopTest, ATitleBarThatIsHeldHoldsUpAWaitAndNoMore) {
   const double next = desktop_.Clock();
   while (desktop_.Clock() < next + kHeld) desktop_.RunEventsUntil(next + kHeld);
   EXPECT_LT(desktop_.Clock(), next + 2 * kHeld) << "the next wait is as long as ever";
+}
+
+TEST_F(Win32DesktopTest, ASnapAtTheEndOfADragLeavesTheFrameWhereItWasTakenUp) {
+  Put(120, 90, 0);
+  ASSERT_TRUE(ComesTo(120, 90));
+  SendMessageW(window_, WM_ENTERSIZEMOVE, 0, 0);
+  Put(-150, 40, 0);
+  Put(0, 0, 70);
+  SendMessageW(window_, WM_EXITSIZEMOVE, 0, 0);
+  EXPECT_TRUE(ComesTo(120, 90));
+  SendMessageW(window_, WM_ENTERSIZEMOVE, 0, 0);
+  Put(60, 70, 0);
+  SendMessageW(window_, WM_EXITSIZEMOVE, 0, 0);
+  Settle();
+  frame_.Left = frame_.Top = 0;
+  for (int look = 0; frame_.Left == 0 && look < 100; ++look) desktop_.RunEventsUntil(desktop_.Clock() + 0.05);
+  EXPECT_EQ(frame_.Left, 60 * kTwipsPerPixel) << "where the player has put it";
+}
+
+TEST_F(Win32DesktopTest, AFrameWhosePlaceIsNoMoreOnItsScreenStaysWhereItIsSeen) {
+  Put(-5000, -5000, 0);
+  ASSERT_TRUE(ComesTo(-5000, -5000));
+  Put(40, 30, 70);
+  EXPECT_TRUE(ComesTo(40, 30));
+}
+
+TEST_F(Win32DesktopTest, TheLeastSizeFollowsTheScreenInEveryState) {
+  const auto least = [this] {
+    MINMAXINFO limits{};
+    SendMessageW(window_, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    return limits.ptMinTrackSize;
+  };
+  const POINT before = least();
+  for (const int state : {SW_MAXIMIZE, SW_MINIMIZE}) {
+    ShowWindow(window_, state);
+    RECT suggested{0, 0, 500, 400};
+    SendMessageW(window_, WM_DPICHANGED, MAKELONG(192, 192), reinterpret_cast<LPARAM>(&suggested));
+    EXPECT_GE(least().x, 2 * 300);
+    EXPECT_LT(least().x, 2 * before.x + 20) << "an unseen window's size counts for nothing";
+    SendMessageW(window_, WM_DPICHANGED, MAKELONG(96, 96), reinterpret_cast<LPARAM>(&suggested));
+    EXPECT_EQ(least().x, before.x);
+  }
 }
 
 TEST_F(Win32DesktopTest, SizesAndPlacesFollowTheScreen) {
