@@ -9,7 +9,6 @@
 #include "desktop/common/painting.h"
 #include "desktop/qt/canvas.h"
 #include "desktop/qt/form_reading.h"
-#include "desktop/qt/input.h"
 #include "desktop/qt/text.h"
 #include "desktop/qt/text_view.h"
 
@@ -121,15 +120,18 @@ bool FormView::focusNextPrevChild(bool) { return true; }
 
 /// Keys mean the same wherever on the form the focus is.
 bool FormView::eventFilter(QObject*, QEvent* event) {
-  return event->type() == QEvent::KeyPress && TakeKey(*static_cast<QKeyEvent*>(event));
+  if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
+  auto& key = static_cast<QKeyEvent&>(*event);
+  const bool isRepeated = repeats_.Has(key);
+  return key.type() == QEvent::KeyPress && TakeKey(key, isRepeated);
 }
 
 /// False for a key that means nothing here.
-bool FormView::TakeKey(QKeyEvent& event) {
+bool FormView::TakeKey(QKeyEvent& event, bool isRepeated) {
   auto* text = findChild<TextView*>();
   const auto key = KeyOf(event);
   if (key) {
-    const common::Scroll scroll = delivery_.PressKey(*key, event.isAutoRepeat());
+    const common::Scroll scroll = delivery_.PressKey(*key, isRepeated);
     if (text) text->ScrollBy(scroll);
   } else if (text && event.matches(QKeySequence::Copy)) {
     text->copy();

@@ -10,6 +10,7 @@
 #include "desktop/common/views.h"
 #include "desktop/qt/control.h"
 #include "desktop/qt/fonts.h"
+#include "desktop/qt/input.h"
 #include "desktop/qt/picture_store.h"
 
 namespace desktop::qt {
@@ -45,7 +46,7 @@ class FormView : public QWidget, public common::View {
   void DecodePictures();
   void FollowPointer();
   QPointF OnForm(const QMouseEvent& event) const;
-  bool TakeKey(QKeyEvent& event);
+  bool TakeKey(QKeyEvent& event, bool isRepeated);
 
   Form& form_;
   common::Delivery& delivery_;
@@ -53,7 +54,8 @@ class FormView : public QWidget, public common::View {
   TypeMeasure type_;
   common::Drawing drawing_{form_, type_};
   common::Telling telling_{form_};
-  QRegion marked_;      ///< to be drawn again
+  QRegion marked_;  ///< to be drawn again
+  Repeats repeats_;
   bool tells_ = false;  ///< a screen reader is about to be told
   Controls controls_{form_, delivery_, pictures_, *this};
   PointerShape shape_ = PointerShape::Default;

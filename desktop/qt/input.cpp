@@ -1,6 +1,8 @@
 #include "desktop/qt/input.h"
 
+#include <QGuiApplication>
 #include <algorithm>
+#include <utility>
 
 namespace desktop::qt {
 
@@ -39,6 +41,21 @@ std::optional<Key> KeyOf(const QKeyEvent& event) {
   if (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) return std::nullopt;
   const auto* found = std::ranges::find(kKeys, event.key(), &Pair::code);
   return found == std::end(kKeys) ? std::nullopt : std::optional(found->key);
+}
+
+bool Repeats::Has(const QKeyEvent& event) {
+  if (event.isAutoRepeat()) return event.type() == QEvent::KeyPress;
+  // X tells a repeat by a release and a press of one moment. Where they arrive apart, on a busy machine, the toolkit
+  // takes them for the player's. One who plays with no fingers may be as quick, but no server repeats within 3 ms.
+  static const bool isX11 = QGuiApplication::platformName() == QLatin1String("xcb");
+  // What was pressed before it came here has been held for long.
+  if (std::exchange(key_, event.nativeScanCode()) != event.nativeScanCode()) pressed_ = released_ = 0;
+  if (event.type() == QEvent::KeyRelease) {
+    released_ = event.timestamp();
+    return false;
+  }
+  const bool wasHeld = released_ > std::exchange(pressed_, event.timestamp()) + 3;
+  return isX11 && wasHeld && event.timestamp() == released_;
 }
 
 }  // namespace desktop::qt

@@ -17,4 +17,17 @@ int ButtonsOf(Qt::MouseButtons buttons);
 /// None for a key that means nothing on a form.
 std::optional<Key> KeyOf(const QKeyEvent& event);
 
+/// Tells keys that are held down and repeat from keys that are pressed anew.
+class Repeats {
+ public:
+  /// Of a press or a release, each of which it wants in turn. True for a press that repeats.
+  bool Has(const QKeyEvent& event);
+
+ private:
+  // Of one key, in the X server's milliseconds.
+  quint32 key_ = 0;
+  quint64 pressed_ = 0;
+  quint64 released_ = 0;
+};
+
 }  // namespace desktop::qt

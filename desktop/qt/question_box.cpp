@@ -24,8 +24,9 @@ void QuestionBox::keyPressEvent(QKeyEvent* event) {
 }
 
 bool QuestionBox::eventFilter(QObject* button, QEvent* event) {
-  const bool isRepeated = event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
-  return isRepeated || QMessageBox::eventFilter(button, event);
+  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+  if (isKey && repeats_.Has(*static_cast<QKeyEvent*>(event))) return true;
+  return QMessageBox::eventFilter(button, event);
 }
 
 }  // namespace desktop::qt

@@ -3,6 +3,8 @@
 
 #include <QMessageBox>
 
+#include "desktop/qt/input.h"
+
 namespace desktop::qt {
 
 /// Esc and the box's close button do nothing, nor does a key that has been held since before: an answer by accident
@@ -19,6 +21,9 @@ class QuestionBox : public QMessageBox {
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* button, QEvent* event) override;
+
+ private:
+  Repeats repeats_;
 };
 
 }  // namespace desktop::qt
