@@ -185,6 +185,8 @@ class Desk:
         for code in reversed(codes):
             xtest.fake_input(self.display, X.KeyRelease, code)
         self.display.sync()
+        # A press in the millisecond of the release, which no hand can do, is how the server tells a key that repeats.
+        time.sleep(0.002)
 
     def pointer_shape(self):
         """The pixels of the pointer as it is shown now."""
