@@ -1,8 +1,10 @@
 """A run of the game on a display: where everything stands, and what a player sees and does."""
 
+import contextlib
 import functools
 import math
 import pathlib
+import tempfile
 
 from PIL import Image, ImageChops
 
@@ -163,13 +165,22 @@ class Game:
         try:
             self.window = wait_until("the game's window", self._find_window)
             wait_until("the opening form", self.shows_opening)
-        except BaseException:
-            self.__exit__()
+        except BaseException as failure:
+            self.__exit__(type(failure))
             raise
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, failure=None, *_):
+        if failure:
+            # Unless it is the screen that has failed.
+            with contextlib.suppress(Exception):
+                self._keep_picture(failure)
         stop(self.process)
+
+    def _keep_picture(self, failure):
+        picture = pathlib.Path(tempfile.mkdtemp(prefix="failed-"), "screen.png")
+        self.desk.picture(0, 0, *self.desk.size).save(picture)
+        print(f"{failure.__name__}: what the screen showed is in {picture}", flush=True)
 
     def _find_window(self):
         assert self.process.poll() is None, f"the game ended with status {self.process.returncode}"
