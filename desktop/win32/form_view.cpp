@@ -49,7 +49,8 @@ void FormView::Follow() {
 
 /// Always at once: where events come one upon the other, it would wait for a gap between them.
 void FormView::Draw(bool) {
-  UpdateWindow(handle());
+  // With its controls, or where one comes what was there before would be seen for a moment.
+  RedrawWindow(handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   if (audience_) audience_->Call();
 }
 

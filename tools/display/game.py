@@ -85,10 +85,6 @@ def differs_in(canvas, other, place, scale=1):
     return box(canvas, place, scale).tobytes() != box(other, place, scale).tobytes()
 
 
-def is_blank(canvas, place, colour, scale=1):
-    return box(canvas, place, scale).getcolors(1) == [(device(place[2], scale) * device(place[3], scale), colour)]
-
-
 def dice_squares(canvas):
     """The squares that the three dice show, or None while one is away or on its way."""
     frames = dice_frames(canvas)
@@ -234,9 +230,10 @@ class Game:
         return box(canvas or self.canvas(), INSTRUCTIONS[0], self.scale).getpixel((1, 1)) == INSTRUCTION
 
     def has_turn_begun(self, canvas=None):
-        """Down to the button, which may be a window of its own and follow a moment later."""
+        """Down to the button, which may be a window of its own and follow a moment later: all of it has one edge."""
         canvas = canvas or self.canvas()
-        return self.can_bet(canvas) and not is_blank(canvas, GET_CHANGE, TABLE, self.scale)
+        edge = box(canvas, (*GET_CHANGE[:3], 1), self.scale).getcolors(1)
+        return self.can_bet(canvas) and bool(edge) and edge[0][1] != TABLE
 
     # --- Doing
 

@@ -8,6 +8,7 @@ import subprocess
 import tempfile
 
 import wine
+from desk import wait_until
 
 TITLE = "Thistle and Lantern"
 SECTION = "Settings"
@@ -48,6 +49,7 @@ class Windows:
         self.folder = pathlib.Path(desk.home, "wine")
         wine.copy(self.folder)
         desk.start([wine.SERVER, "--foreground", "--persistent"], **wine.variables(self.folder))
+        wait_until("Wine's server", lambda: wine.is_served(self.folder))
         desk.at_end(lambda: wine.end(self.folder))
 
     def run(self, *words):

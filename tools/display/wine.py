@@ -31,6 +31,13 @@ def run(folder, *command, environment=os.environ, **options):
     return subprocess.run([LOADER, *command], env={**environment, **variables(folder)}, **options)
 
 
+def is_served(folder):
+    """Whether the folder's server listens; then it has left its address there. A program that came before would start
+    one of its own."""
+    address = folder / "wineserver"
+    return address.exists() and address.stat().st_size > 0
+
+
 def end(folder):
     """Ends all that Wine has started for this folder. Left alone, some of it would stay."""
     subprocess.run([SERVER, "--kill"], env={**os.environ, **variables(folder)}, check=False)
