@@ -127,12 +127,13 @@ void FrameWindow::Rescale(UINT dpi, const RECT& suggested) {
   scale_ = ScaleOf(dpi);
   rescale_(scale_);
   const common::Rect room = FromWindows(suggested);
-  // Also the least size to which it can be restored.
-  outer_ = ReckonedSize();
+  const bool isNormal = !IsZoomed(handle()) && !IsIconic(handle());
+  if (isNormal)
+    StandAt({room.left, room.top});
+  else
+    outer_ = ReckonedSize();  // the least to which it can be restored
   if (IsZoomed(handle()))
     SetWindowPos(handle(), nullptr, room.left, room.top, room.width, room.height, SWP_NOZORDER | SWP_NOACTIVATE);
-  else if (!IsIconic(handle()))
-    StandAt({room.left, room.top});
   InvalidateRect(handle(), nullptr, FALSE);
 }
 

@@ -49,8 +49,8 @@ class Windows:
         self.folder = pathlib.Path(desk.home, "wine")
         wine.copy(self.folder)
         desk.start([wine.SERVER, "--foreground", "--persistent"], **wine.variables(self.folder))
-        wait_until("Wine's server", lambda: wine.is_served(self.folder))
         desk.at_end(lambda: wine.end(self.folder))
+        wait_until("Wine's server", lambda: wine.is_served(self.folder))
 
     def run(self, *words):
         """Runs one of Wine's own programs, and returns what it says."""
